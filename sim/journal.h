@@ -1,0 +1,78 @@
+// The simulator's journal: every C API call the simulator receives is
+// recorded with its raw argument values and deep copies of the records it
+// was given (taken at call entry, since callers free their buffers right
+// after the call). Tests read the journal and script statuses and outputs
+// through the Java class com.kovra.rfid.orla.sim.SimControl.
+//
+// Blob names: a pointer argument is captured under its parameter name
+// ("connInfo"); what a record points to is captured under the record's name,
+// a dot and the field name ("connInfo.secConnInfo",
+// "connInfo.secConnInfo.clientCertBuff"); array entries take "[i]"
+// ("triggerInfo.extraTriggers.start[3].startTime"). A NULL pointer is
+// recorded as an absent blob, so tests can tell NULL from empty.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace sim {
+
+struct Blob {
+  bool present = false;
+  std::vector<uint8_t> bytes;
+};
+
+struct Call {
+  uint64_t seq = 0;
+  std::string fn;
+  std::vector<uint64_t> args;
+  std::map<std::string, Blob> blobs;
+};
+
+// Builds one journal entry. Construct it first thing in a C API function,
+// add the blobs, then call finish() (exactly once) to append the entry and
+// learn the status the test scripted for this function (0 by default).
+class Recorder {
+ public:
+  Recorder(const char* fn, std::initializer_list<uint64_t> args);
+  Recorder(const Recorder&) = delete;
+  Recorder& operator=(const Recorder&) = delete;
+  ~Recorder();  // appends the entry if finish() was not called
+
+  // Copies n bytes at p; p == nullptr records an absent blob.
+  void blob(const std::string& name, const void* p, size_t n);
+  // Copies a NUL-terminated wide string (at most maxChars characters, the
+  // terminator not included); nullptr records an absent blob.
+  void wide(const std::string& name, const wchar_t* s, size_t maxChars = 4096);
+
+  int32_t finish();
+
+ private:
+  Call call_;
+  bool done_ = false;
+};
+
+// Status scripted for fn, 0 when none. A one-shot status queued for fn is
+// consumed first.
+int32_t scriptedStatus(const std::string& fn);
+
+// Bytes scripted as fn's output record; copies min(n, scripted size) bytes
+// into dst and returns true when there is a script for fn.
+bool scriptedOutput(const std::string& fn, void* dst, size_t n);
+
+// A pointer-sized result scripted for fn (an address from SimControl.alloc,
+// or 0); returns true when there is a script for fn.
+bool scriptedPointer(const std::string& fn, uint64_t* value);
+
+// Memory handed out to tests with SimControl.alloc stays alive until reset.
+void* keepAlive(std::vector<uint8_t> bytes);
+
+// The whole journal, for the control natives.
+std::vector<Call> journalSnapshot();
+void resetJournalAndScripts();
+
+}  // namespace sim

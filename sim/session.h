@@ -1,0 +1,20 @@
+// Connected readers. Handles are issued by RFID_ConnectW, RFID_LoginW and
+// RFID_AcceptConnection; every other call checks its handle here first.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace sim {
+
+bool sessionExists(int64_t handle);
+
+// Called (outside any lock of the session table) after a reader handle was
+// closed by RFID_Disconnect or RFID_Logout, so reader state can be dropped.
+using SessionClosedHook = void (*)(int64_t handle);
+void addSessionClosedHook(SessionClosedHook hook);
+
+// Clears every session (SimControl.reset).
+void resetSessions();
+
+}  // namespace sim
