@@ -14,7 +14,10 @@ bool sessionExists(int64_t handle);
 using SessionClosedHook = void (*)(int64_t handle);
 void addSessionClosedHook(SessionClosedHook hook);
 
-// Clears every session (SimControl.reset).
+// SimControl.reset clears the journal, the scripts and every session, then
+// runs the reset hooks (reader state, tag buffers, events...).
+using ResetHook = void (*)();
+void addResetHook(ResetHook hook);
 void resetSessions();
 
 }  // namespace sim
