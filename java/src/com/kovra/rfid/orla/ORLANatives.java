@@ -1,0 +1,66 @@
+package com.kovra.rfid.orla;
+
+/**
+ * The native entry points of the SDK, implemented by liborlajni.so on top of
+ * the reader C API. Every method returns the C API's status code unchanged
+ * (0 is success) unless its declaration says otherwise. Reader handles are
+ * Java ints; out-parameters are one-element arrays, written only on success
+ * except where a method's note says otherwise. This class loads nothing:
+ * call {@link OrlaLibrary#load()} first.
+ */
+public final class ORLANatives {
+
+    private ORLANatives() {
+    }
+
+    // Connection: open, restore and close a reader session.
+    public static native int RFID_Connect(long[] readerHandle, String hostName, int connectionParameter1,
+            int connectionParameter2, CONNECTION_INFO connectionInfo);
+    public static native int RFID_Reconnect(int readerHandle);
+    public static native int RFID_DisConnect(int readerHandle);
+
+    // Event handles (created and waited on in groups as long, used singly as int) and reader events.
+    public static native long rfidUtils_CreateEvent(int unused, int manualReset, int initialState);
+    public static native int rfidUtils_SetEvent(int eventHandle);
+    public static native int rfidUtils_ResetEvent(int eventHandle);
+    public static native int rfidUtils_CloseHandle(int eventHandle);
+    public static native int rfidUtils_WaitForSingleObject(int eventHandle, int timeoutMilliseconds);
+    public static native int rfidUtils_WaitForMultipleObjects(int count, long[] eventHandles, boolean waitAll,
+            int timeoutMilliseconds);
+    public static native int RFID_RegisterEventNotification(int readerHandle, RFID_EVENT_TYPE eventType,
+            int eventHandle);
+    public static native int RFID_DeregisterEventNotification(int readerHandle, RFID_EVENT_TYPE eventType);
+    public static native int RFID_GetEventData(int readerHandle, RFID_EVENT_TYPE eventType, EVENT_DATA eventData);
+
+    // Tag records held by Java and tag retrieval.
+    /** Returns the address of a tag record allocated by the C API (0 when none). */
+    public static native long RFID_AllocateTag(int readerHandle);
+    public static native int RFID_DeallocateTag(int readerHandle, long tagRecord);
+    public static native int RFID_GetReadTag(int readerHandle, TAG_DATA tagData, long tagRecord, boolean utcTime);
+    /** Returns the status of releasing the batch; the number of tags read goes to tagCount[0]. */
+    public static native int rfid_GetReadTags(int readerHandle, int maxCount, TAG_DATA[] tags, int[] tagCount,
+            boolean utcTime);
+
+    // Inventory, tag locationing and NXP EAS scan.
+    public static native int RFID_PerformInventory(int readerHandle, POST_FILTER postFilter, ANTENNA_INFO antennaInfo,
+            TRIGGER_INFO triggerInfo);
+    public static native int RFID_StopInventory(int readerHandle);
+    public static native int RFID_PurgeTags(int readerHandle);
+    public static native int RFID_PerformTagLocationing(int readerHandle, String tagID, int tagIDLength,
+            ANTENNA_INFO antennaInfo);
+    public static native int RFID_StopTagLocationing(int readerHandle);
+    public static native int RFID_PerformNXPEASScan(int readerHandle, ANTENNA_INFO antennaInfo,
+            TRIGGER_INFO triggerInfo);
+    public static native int RFID_StopNXPEASScan(int readerHandle);
+
+    // Pre-filters.
+    public static native int RFID_AddPreFilter(int readerHandle, int antennaID, PRE_FILTER preFilter,
+            int[] filterIndex);
+    public static native int RFID_DeletePreFilter(int readerHandle, int antennaID, int filterIndex);
+
+    // Tag storage and singulation.
+    public static native int RFID_GetTagStorageSettings(int readerHandle, TAG_STORAGE_SETTINGS settings);
+    public static native int RFID_SetTagStorageSettings(int readerHandle, TAG_STORAGE_SETTINGS settings);
+    public static native int RFID_GetSingulationControl(int readerHandle, int antennaID, SINGULATION_CONTROL control);
+    public static native int RFID_SetSingulationControl(int readerHandle, int antennaID, SINGULATION_CONTROL control);
+}
