@@ -19,6 +19,20 @@ public final class ORLANatives {
     public static native int RFID_Reconnect(int readerHandle);
     public static native int RFID_DisConnect(int readerHandle);
 
+    // Login and management session.
+    public static native int RFID_Login(long[] readerHandle, LOGIN_INFO loginInfo, READER_TYPE readerType,
+            boolean loginFlag);
+    public static native int RFID_Logout(int readerHandle);
+    public static native int RFID_Restart(int readerHandle);
+
+    // LLRP connection initiated by the reader.
+    public static native int RFID_GetLLRPConnectionConfig(int readerHandle, LLRP_CONNECTION_CONFIG config);
+    public static native int RFID_SetLLRPConnectionConfig(int readerHandle, LLRP_CONNECTION_CONFIG config);
+    public static native int RFID_InitiateLLRPConnectionFromReader(int readerHandle);
+    public static native int RFID_DisconnectLLRPConnectionFromReader(int readerHandle);
+    public static native int RFID_AcceptConnection(long[] readerHandle, long acceptParameter,
+            ACCEPT_CONNECTION_INFO acceptInfo);
+
     // Event handles (created and waited on in groups as long, used singly as int) and reader events.
     public static native long rfidUtils_CreateEvent(int unused, int manualReset, int initialState);
     public static native int rfidUtils_SetEvent(int eventHandle);
@@ -31,6 +45,13 @@ public final class ORLANatives {
             int eventHandle);
     public static native int RFID_DeregisterEventNotification(int readerHandle, RFID_EVENT_TYPE eventType);
     public static native int RFID_GetEventData(int readerHandle, RFID_EVENT_TYPE eventType, EVENT_DATA eventData);
+
+    // Errors, version and trace.
+    public static native int RFID_GetLastErrorInfo(int readerHandle, ERROR_INFO errorInfo);
+    /** Returns the C API's description of a status code; never a status. */
+    public static native String RFID_GetErrorDescription(RFID_STATUS status);
+    public static native int RFID_GetDllVersionInfo(VERSION_INFO versionInfo);
+    public static native int RFID_SetTraceLevel(int readerHandle, int traceLevel);
 
     // Tag records held by Java and tag retrieval.
     /** Returns the address of a tag record allocated by the C API (0 when none). */
