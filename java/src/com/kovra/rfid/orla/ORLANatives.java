@@ -84,4 +84,72 @@ public final class ORLANatives {
     public static native int RFID_SetTagStorageSettings(int readerHandle, TAG_STORAGE_SETTINGS settings);
     public static native int RFID_GetSingulationControl(int readerHandle, int antennaID, SINGULATION_CONTROL control);
     public static native int RFID_SetSingulationControl(int readerHandle, int antennaID, SINGULATION_CONTROL control);
+
+    // Single Gen2 access operations. The two Object arguments of the tag-returning
+    // operations are reserved and never read; Object is this SDK's choice of type.
+    public static native int RFID_Read(int readerHandle, String tagID, int tagIDLength, READ_ACCESS_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData, Object reserved1,
+            Object reserved2, boolean utcTime);
+    public static native int RFID_Write(int readerHandle, String tagID, int tagIDLength, WRITE_ACCESS_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_BlockWrite(int readerHandle, String tagID, int tagIDLength,
+            WRITE_ACCESS_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_BlockErase(int readerHandle, String tagID, int tagIDLength,
+            BLOCK_ERASE_ACCESS_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_Lock(int readerHandle, String tagID, int tagIDLength, LOCK_ACCESS_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_Kill(int readerHandle, String tagID, int tagIDLength, KILL_ACCESS_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_BlockPermalock(int readerHandle, String tagID, int tagIDLength,
+            BLOCK_PERMALOCK_ACCESS_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo,
+            TAG_DATA tagData, Object reserved1, Object reserved2, boolean utcTime);
+    public static native int RFID_Recommission(int readerHandle, String tagID, int tagIDLength,
+            RECOMMISSION_ACCESS_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_WriteAccessPassword(int readerHandle, String tagID, int tagIDLength,
+            WRITE_FIELD_ACCESS_PARAMS params, ANTENNA_INFO antennaInfo);
+    public static native int RFID_WriteKillPassword(int readerHandle, String tagID, int tagIDLength,
+            WRITE_FIELD_ACCESS_PARAMS params, ANTENNA_INFO antennaInfo);
+    public static native int RFID_WriteTagID(int readerHandle, String tagID, int tagIDLength,
+            WRITE_FIELD_ACCESS_PARAMS params, ANTENNA_INFO antennaInfo);
+
+    // NXP and Impinj chip commands.
+    public static native int RFID_NXPReadProtect(int readerHandle, String tagID, int tagIDLength,
+            NXP_READ_PROTECT_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_NXPResetReadProtect(int readerHandle, NXP_RESET_READ_PROTECT_PARAMS params,
+            ANTENNA_INFO antennaInfo);
+    public static native int RFID_NXPSetEAS(int readerHandle, String tagID, int tagIDLength, NXP_SET_EAS_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_NXPChangeConfig(int readerHandle, String tagID, int tagIDLength,
+            NXP_CHANGE_CONFIG_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData,
+            Object reserved1, Object reserved2, boolean utcTime);
+    public static native int RFID_ImpinjQTWrite(int readerHandle, String tagID, int tagIDLength,
+            IMPINJ_QT_WRITE_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
+    public static native int RFID_ImpinjQTRead(int readerHandle, String tagID, int tagIDLength,
+            IMPINJ_QT_READ_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData,
+            Object reserved1, Object reserved2, boolean utcTime);
+
+    // Gen2v2 security commands (the authenticate method keeps its historical spelling).
+    public static native int RFID_Athenticate(int readerHandle, String tagID, int tagIDLength,
+            AUTHENTICATE_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData,
+            Object reserved1, Object reserved2, boolean utcTime);
+    public static native int RFID_Untraceable(int readerHandle, String tagID, int tagIDLength,
+            UNTRACEABLE_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData,
+            Object reserved1, Object reserved2, boolean utcTime);
+    public static native int RFID_ReadBuffer(int readerHandle, String tagID, int tagIDLength,
+            READ_BUFFER_PARAMS params, ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData,
+            Object reserved1, Object reserved2, boolean utcTime);
+    public static native int RFID_Crypto(int readerHandle, String tagID, int tagIDLength, CRYPTO_PARAMS params,
+            ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo, TAG_DATA tagData, Object reserved1,
+            Object reserved2, boolean utcTime);
+
+    // Access sequences.
+    public static native int RFID_InitializeAccessSequence(int readerHandle);
+    public static native int RFID_AddOperationToAccessSequence(int readerHandle, ACCESS_OPERATION operation,
+            int[] operationIndex);
+    public static native int RFID_DeleteOperationFromAccessSequence(int readerHandle, int operationIndex);
+    public static native int RFID_PerformAccessSequence(int readerHandle, ACCESS_FILTER accessFilter,
+            ANTENNA_INFO antennaInfo, TRIGGER_INFO triggerInfo);
+    public static native int RFID_StopAccessSequence(int readerHandle);
+    public static native int RFID_GetLastAccessResult(int readerHandle, int[] firstCount, int[] secondCount);
+    public static native int RFID_DeinitializeAccessSequence(int readerHandle);
 }
