@@ -152,4 +152,90 @@ public final class ORLANatives {
     public static native int RFID_StopAccessSequence(int readerHandle);
     public static native int RFID_GetLastAccessResult(int readerHandle, int[] firstCount, int[] secondCount);
     public static native int RFID_DeinitializeAccessSequence(int readerHandle);
+
+    // Reader capabilities.
+    public static native int RFID_GetReaderCaps(int readerHandle, READER_CAPS readerCaps);
+
+    // Antenna configuration.
+    public static native int RFID_SetAntennaConfig(int readerHandle, short antennaID, short firstIndex,
+            short secondIndex, short thirdIndex);
+    /** Writes all three out-values whatever the status; ignore them when it is not 0. */
+    public static native int RFID_GetAntennaConfig(int readerHandle, short antennaID, short[] firstIndex,
+            short[] secondIndex, short[] thirdIndex);
+    public static native int RFID_GetAntennaRfConfig(int readerHandle, short antennaID, ANTENNA_RF_CONFIG config);
+    public static native int RFID_SetAntennaRfConfig(int readerHandle, short antennaID, ANTENNA_RF_CONFIG config);
+    public static native int RFID_SetCableLossCompensation(int readerHandle, short count,
+            CABLE_LOSS_COMPENSATION[] compensations);
+    public static native int RFID_GetCableLossCompensation(int readerHandle, CABLE_LOSS_COMPENSATION compensation);
+    public static native int RFID_GetPhysicalAntennaProperties(int readerHandle, short antennaID,
+            boolean[] flag, int[] value);
+    public static native int RFID_SetAntennaMode(int readerHandle, ANTENNA_MODE antennaMode);
+    public static native int RFID_GetAntennaMode(int readerHandle, int[] antennaMode);
+    public static native int RFID_GetReadPointStatus(int readerHandle, short antennaID, boolean[] enabled);
+    public static native int RFID_EnableReadPoint(int readerHandle, short antennaID, boolean enable);
+
+    // Radio settings. The three power-negotiation methods are exported by the
+    // library only under C++ symbol names, so the VM does not bind them by name.
+    public static native int RFID_SetRFMode(int readerHandle, short antennaID, int firstValue, int secondValue);
+    public static native int RFID_GetRFMode(int readerHandle, short antennaID, int[] firstValue, int[] secondValue);
+    public static native int RFID_SetDutyCycle(int readerHandle, short dutyCycleIndex);
+    public static native int RFID_GetDutyCycle(int readerHandle, short[] dutyCycleIndex);
+    public static native int RFID_SetRadioPowerState(int readerHandle, boolean radioOn);
+    public static native int RFID_GetRadioPowerState(int readerHandle, boolean[] radioOn);
+    public static native int RFID_TurnOffRadioWhenIdle(int readerHandle, int idleTimeoutMilliseconds);
+    /** Sets idleTimeoutMilliseconds[0] to 0 before the call, so a failed call leaves 0 there. */
+    public static native int RFID_GetRadioIdleTimeout(int readerHandle, int[] idleTimeoutMilliseconds);
+    public static native int RFID_GetPowerNegotiationStatus(int readerHandle, POWER_NEGOTIATION_STATUS status);
+    public static native int RFID_SetPowerNegotiationState(int readerHandle, POWER_NEGOTIATION_STATE state);
+    public static native int RFID_GetPowerNegotiationState(int readerHandle, POWER_NEGOTIATION_STATE state);
+    public static native int RFID_GetUSBOperationMode(int readerHandle, USB_OPERATION_MODE_SETTINGS settings);
+    public static native int RFID_SetUSBOperationMode(int readerHandle, USB_OPERATION_MODE_SETTINGS settings);
+
+    // GPIO and user LED.
+    public static native int RFID_EnableGPIPort(int readerHandle, int port, boolean enable);
+    public static native int RFID_GetGPIState(int readerHandle, int port, boolean[] state, int[] value);
+    public static native int RFID_SetGPOState(int readerHandle, int port, boolean state);
+    public static native int RFID_GetGPOState(int readerHandle, int port, boolean[] state);
+    public static native int RFID_SetGPIDebounceTime(int readerHandle, int value, int[] debounceRecord);
+    public static native int RFID_GetGPIDebounceTime(int readerHandle, int[] value, int[] debounceRecord);
+    public static native int RFID_SetUserLED(int readerHandle, LED_INFO ledInfo);
+
+    // Reader information, clock, statistics and health.
+    public static native int RFID_GetSystemInfo(int readerHandle, SYSTEM_INFO systemInfo);
+    public static native int RFID_GetReaderInfo(int readerHandle, READER_INFO readerInfo);
+    public static native int RFID_SetReaderInfo(int readerHandle, READER_INFO readerInfo);
+    public static native int RFID_GetLocalTime(int readerHandle, SYSTEMTIME localTime);
+    public static native int RFID_SetLocalTime(int readerHandle, SYSTEMTIME localTime);
+    public static native int RFID_GetTimeZoneList(int readerHandle, TIME_ZONE_LIST timeZoneList);
+    public static native int RFID_SetTimeZone(int readerHandle, short timeZoneIndex);
+    public static native int RFID_GetReaderStats(int readerHandle, short antennaID, READER_STATS readerStats);
+    public static native int RFID_ClearReaderStats(int readerHandle);
+    public static native int RFID_GetHealthStatus(int readerHandle, HEALTH_PARAM healthParam, short[] healthStatus,
+            int[] extra);
+
+    // Profiles, updates, user applications and LLRP configuration persistence.
+    public static native int RFID_GetProfileList(int readerHandle, PROFILE_LIST profileList);
+    public static native int RFID_ImportProfileFromReader(int readerHandle, String firstName, String secondName);
+    public static native int RFID_ExportProfileToReader(int readerHandle, String firstName, String secondName,
+            boolean flag);
+    public static native int RFID_DeleteProfile(int readerHandle, String profileName);
+    public static native int RFID_SetActiveProfile(int readerHandle, String profileName);
+    public static native int RFID_UpdateSoftware(int readerHandle, UPDATE_INFO updateInfo);
+    public static native int RFID_GetUpdateStatus(int readerHandle, UPDATE_STATUS updateStatus);
+    public static native int RFID_UpdateRadioConfig(int readerHandle, String fileName);
+    public static native int RFID_UpdateRadioFirmware(int readerHandle, String fileName);
+    public static native int RFID_InstallUserApp(int readerHandle, String packageName);
+    public static native int RFID_UninstallUserApp(int readerHandle, String appName);
+    public static native int RFID_StartUserApp(int readerHandle, String appName);
+    public static native int RFID_StopUserApp(int readerHandle, String appName);
+    public static native int RFID_SetAutoStartUserApp(int readerHandle, String appName, boolean autoStart);
+    public static native int RFID_ListUserApps(int readerHandle, USER_APP_INFO[] userApps);
+    public static native int RFID_GetCurrentUserAppRunStatus(int readerHandle, String appName,
+            USER_APP_RUN_STATUS runStatus);
+    /** Returns the number of installed user applications, not a status (0 when the query fails). */
+    public static native int RFID_NumInstalledApps(int readerHandle);
+    /** The long is forwarded unchanged as the C call's pointer-sized argument; long is this SDK's choice. */
+    public static native int RFID_SaveLlrpConfig(int readerHandle, long saveArgument);
+    public static native int RFID_GetSaveLlrpConfigStatus(int readerHandle, boolean[] saved);
+    public static native int RFID_ResetConfigToFactoryDefaults(int readerHandle);
 }
