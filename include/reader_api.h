@@ -1,0 +1,912 @@
+// The reader C API of libhalyard.so, as liborlajni.so uses it: every record
+// exchanged with the library and every function called in it.
+//
+// The records below are a binary interface with a closed library (x86-64,
+// little-endian, 8-byte pointers). Every offset and size that matters is
+// pinned with a static_assert right after its record; a wrong offset here
+// corrupts tags on a real reader. Gaps are spelt out as padN (alignment the
+// library never looks at) and reservedN (areas the library owns), where N is
+// the byte offset of the gap.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cwchar>
+
+// ---------------------------------------------------------------------------
+// Basic types
+// ---------------------------------------------------------------------------
+
+// Status of every RFID_ call; 0 is success.
+typedef int32_t RFID_STATUS;
+// Reader (or management session) handle. Java holds it as an int and it is
+// passed here sign-extended.
+typedef int64_t READER_HANDLE;
+// Event object of the rfidUtils_ event utilities.
+typedef int64_t EVENT_HANDLE;
+// One-byte C boolean, always stored as 0 or 1 by this library.
+typedef uint8_t RFID_BOOL;
+
+// Wide strings of the C API hold up to 260 characters (1040 bytes).
+constexpr size_t kMaxWideChars = 260;
+
+// ===========================================================================
+// Shared records
+// ===========================================================================
+
+// Calendar time stamp: eight 16-bit members.
+struct SYSTEMTIME {
+  uint16_t Year;
+  uint16_t Month;
+  uint16_t DayOfWeek;
+  uint16_t Day;
+  uint16_t Hour;
+  uint16_t Minute;
+  uint16_t Second;
+  uint16_t Milliseconds;
+};
+static_assert(offsetof(SYSTEMTIME, Year) == 0, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Month) == 2, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, DayOfWeek) == 4, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Day) == 6, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Hour) == 8, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Minute) == 10, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Second) == 12, "SYSTEMTIME layout");
+static_assert(offsetof(SYSTEMTIME, Milliseconds) == 14, "SYSTEMTIME layout");
+static_assert(sizeof(SYSTEMTIME) == 16, "SYSTEMTIME size");
+
+// ===========================================================================
+// Connection and session
+// ===========================================================================
+
+// Client certificate, key, pass phrase and root certificate of a secured
+// reader connection; the byte buffers live only during the connect call.
+struct SEC_CONNECTION_INFO {
+  RFID_BOOL secureMode;
+  RFID_BOOL validatePeerCert;
+  uint8_t pad2[2];
+  uint32_t sizeCertBuff;
+  uint8_t* clientCertBuff;
+  uint32_t sizeKeyBuff;
+  uint8_t pad20[4];
+  uint8_t* clientKeyBuff;
+  uint32_t sizePhraseBuff;
+  uint8_t pad36[4];
+  uint8_t* phraseBuff;
+  uint32_t sizeRootCertBuff;
+  uint8_t pad52[4];
+  uint8_t* rootCertBuff;
+  int64_t connStatus;
+  uint8_t reserved72[32];
+};
+static_assert(offsetof(SEC_CONNECTION_INFO, secureMode) == 0, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, validatePeerCert) == 1, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, sizeCertBuff) == 4, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, clientCertBuff) == 8, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, sizeKeyBuff) == 16, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, clientKeyBuff) == 24, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, sizePhraseBuff) == 32, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, phraseBuff) == 40, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, sizeRootCertBuff) == 48, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, rootCertBuff) == 56, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, connStatus) == 64, "SEC_CONNECTION_INFO layout");
+static_assert(offsetof(SEC_CONNECTION_INFO, reserved72) == 72, "SEC_CONNECTION_INFO layout");
+static_assert(sizeof(SEC_CONNECTION_INFO) == 104, "SEC_CONNECTION_INFO size");
+
+// Connect options: protocol version and the optional secure part. Only the
+// first 16 bytes are ours; the rest belongs to the library.
+struct CONNECTION_INFO {
+  uint32_t version;  // RFID_VERSION
+  uint8_t pad4[4];
+  SEC_CONNECTION_INFO* secConnInfo;
+  uint8_t reserved16[32];
+};
+static_assert(offsetof(CONNECTION_INFO, version) == 0, "CONNECTION_INFO layout");
+static_assert(offsetof(CONNECTION_INFO, secConnInfo) == 8, "CONNECTION_INFO layout");
+static_assert(offsetof(CONNECTION_INFO, reserved16) == 16, "CONNECTION_INFO layout");
+static_assert(sizeof(CONNECTION_INFO) == 48, "CONNECTION_INFO size");
+
+// Credentials of a management session on the reader.
+struct LOGIN_INFO {
+  wchar_t hostName[kMaxWideChars];
+  wchar_t userName[kMaxWideChars];
+  wchar_t password[kMaxWideChars];
+  uint32_t version;  // RFID_VERSION, from the Java "rfidVersion"
+  RFID_BOOL forceLogin;
+  uint8_t reserved3125[19];
+};
+static_assert(sizeof(wchar_t) == 4, "wide characters are 4 bytes on this platform");
+static_assert(offsetof(LOGIN_INFO, hostName) == 0, "LOGIN_INFO layout");
+static_assert(offsetof(LOGIN_INFO, userName) == 1040, "LOGIN_INFO layout");
+static_assert(offsetof(LOGIN_INFO, password) == 2080, "LOGIN_INFO layout");
+static_assert(offsetof(LOGIN_INFO, version) == 3120, "LOGIN_INFO layout");
+static_assert(offsetof(LOGIN_INFO, forceLogin) == 3124, "LOGIN_INFO layout");
+static_assert(offsetof(LOGIN_INFO, reserved3125) == 3125, "LOGIN_INFO layout");
+static_assert(sizeof(LOGIN_INFO) == 3144, "LOGIN_INFO size");
+
+// TLS switches of the reader-initiated LLRP connection.
+struct SEC_LLRP_CONFIG {
+  RFID_BOOL secureMode;
+  RFID_BOOL validatePeerCert;
+  uint8_t reserved2[38];
+};
+static_assert(offsetof(SEC_LLRP_CONFIG, secureMode) == 0, "SEC_LLRP_CONFIG layout");
+static_assert(offsetof(SEC_LLRP_CONFIG, validatePeerCert) == 1, "SEC_LLRP_CONFIG layout");
+static_assert(offsetof(SEC_LLRP_CONFIG, reserved2) == 2, "SEC_LLRP_CONFIG layout");
+static_assert(sizeof(SEC_LLRP_CONFIG) == 40, "SEC_LLRP_CONFIG size");
+
+// Where the reader opens its LLRP connection: as client to a host server,
+// or as server on a port.
+struct LLRP_CONNECTION_CONFIG {
+  RFID_BOOL isClient;
+  uint8_t pad1[3];
+  uint32_t port;
+  wchar_t hostServerIP[kMaxWideChars];
+  SEC_LLRP_CONFIG* pSecureModeConfig;
+  uint8_t reserved1056[40];
+};
+static_assert(offsetof(LLRP_CONNECTION_CONFIG, isClient) == 0, "LLRP_CONNECTION_CONFIG layout");
+static_assert(offsetof(LLRP_CONNECTION_CONFIG, port) == 4, "LLRP_CONNECTION_CONFIG layout");
+static_assert(offsetof(LLRP_CONNECTION_CONFIG, hostServerIP) == 8, "LLRP_CONNECTION_CONFIG layout");
+static_assert(offsetof(LLRP_CONNECTION_CONFIG, pSecureModeConfig) == 1048,
+              "LLRP_CONNECTION_CONFIG layout");
+static_assert(offsetof(LLRP_CONNECTION_CONFIG, reserved1056) == 1056,
+              "LLRP_CONNECTION_CONFIG layout");
+static_assert(sizeof(LLRP_CONNECTION_CONFIG) == 1096, "LLRP_CONNECTION_CONFIG size");
+
+// Output area of RFID_InitiateLLRPConnectionFromReader; we never read it.
+struct LLRP_INITIATE_SCRATCH {
+  alignas(8) uint8_t reserved0[24];
+};
+static_assert(sizeof(LLRP_INITIATE_SCRATCH) == 24, "LLRP_INITIATE_SCRATCH size");
+
+// Input of RFID_AcceptConnection. timeoutMilliseconds is the library's slot;
+// this library leaves it as the stack holds it.
+struct ACCEPT_CONNECTION_INFO {
+  uint32_t timeoutMilliseconds;
+  uint32_t rfidVersion;  // RFID_VERSION
+};
+static_assert(offsetof(ACCEPT_CONNECTION_INFO, timeoutMilliseconds) == 0,
+              "ACCEPT_CONNECTION_INFO layout");
+static_assert(offsetof(ACCEPT_CONNECTION_INFO, rfidVersion) == 4, "ACCEPT_CONNECTION_INFO layout");
+static_assert(sizeof(ACCEPT_CONNECTION_INFO) == 8, "ACCEPT_CONNECTION_INFO size");
+
+// Output area of RFID_AcceptConnection; we never read it. Its size is the
+// library's business: 64 bytes are kept for it.
+struct ACCEPT_CONNECTION_SCRATCH {
+  alignas(8) uint8_t reserved0[64];
+};
+static_assert(sizeof(ACCEPT_CONNECTION_SCRATCH) == 64, "ACCEPT_CONNECTION_SCRATCH size");
+
+// ===========================================================================
+// Events
+// ===========================================================================
+// Data records of RFID_GetEventData, one per event type that we report.
+// Each is at least 16 bytes; enumeration members are 32-bit and reach Java
+// as their low 16 bits.
+
+// Event type 0: a GPI port changed state.
+struct GPI_EVENT_DATA {
+  int16_t port;
+  RFID_BOOL eventInfo;
+  uint8_t reserved3[13];
+};
+static_assert(offsetof(GPI_EVENT_DATA, port) == 0, "GPI_EVENT_DATA layout");
+static_assert(offsetof(GPI_EVENT_DATA, eventInfo) == 2, "GPI_EVENT_DATA layout");
+static_assert(sizeof(GPI_EVENT_DATA) == 16, "GPI_EVENT_DATA size");
+
+// Event type 3: an antenna was connected or disconnected.
+struct ANTENNA_EVENT_DATA {
+  int16_t antennaID;
+  uint8_t pad2[2];
+  uint32_t antennaEvent;
+  uint8_t reserved8[8];
+};
+static_assert(offsetof(ANTENNA_EVENT_DATA, antennaID) == 0, "ANTENNA_EVENT_DATA layout");
+static_assert(offsetof(ANTENNA_EVENT_DATA, antennaEvent) == 4, "ANTENNA_EVENT_DATA layout");
+static_assert(sizeof(ANTENNA_EVENT_DATA) == 16, "ANTENNA_EVENT_DATA size");
+
+// Event types 8 and 12: a single event information code.
+struct EVENT_INFO_DATA {
+  uint32_t eventInfo;
+  uint8_t reserved4[12];
+};
+static_assert(offsetof(EVENT_INFO_DATA, eventInfo) == 0, "EVENT_INFO_DATA layout");
+static_assert(sizeof(EVENT_INFO_DATA) == 16, "EVENT_INFO_DATA size");
+
+// Event type 10: an alarm with its 64-bit code, raised on an antenna.
+struct ALARM_EVENT_DATA {
+  int64_t alarmCode;
+  int16_t antennaID;
+  uint8_t reserved10[6];
+};
+static_assert(offsetof(ALARM_EVENT_DATA, alarmCode) == 0, "ALARM_EVENT_DATA layout");
+static_assert(offsetof(ALARM_EVENT_DATA, antennaID) == 8, "ALARM_EVENT_DATA layout");
+static_assert(sizeof(ALARM_EVENT_DATA) == 16, "ALARM_EVENT_DATA size");
+
+// Event type 11: a reader exception with its text.
+struct EXCEPTION_EVENT_DATA {
+  uint32_t exceptionType;
+  wchar_t exceptionInfo[271];
+};
+static_assert(offsetof(EXCEPTION_EVENT_DATA, exceptionType) == 0, "EXCEPTION_EVENT_DATA layout");
+static_assert(offsetof(EXCEPTION_EVENT_DATA, exceptionInfo) == 4, "EXCEPTION_EVENT_DATA layout");
+static_assert(sizeof(EXCEPTION_EVENT_DATA) == 1088, "EXCEPTION_EVENT_DATA size");
+
+// Event type 14: a temperature alarm (source, current temperature, level).
+struct TEMPERATURE_ALARM_EVENT_DATA {
+  uint32_t sourceName;
+  int32_t currentTemperature;
+  uint32_t alarmLevel;
+  uint8_t reserved12[4];
+};
+static_assert(offsetof(TEMPERATURE_ALARM_EVENT_DATA, sourceName) == 0,
+              "TEMPERATURE_ALARM_EVENT_DATA layout");
+static_assert(offsetof(TEMPERATURE_ALARM_EVENT_DATA, currentTemperature) == 4,
+              "TEMPERATURE_ALARM_EVENT_DATA layout");
+static_assert(offsetof(TEMPERATURE_ALARM_EVENT_DATA, alarmLevel) == 8,
+              "TEMPERATURE_ALARM_EVENT_DATA layout");
+static_assert(sizeof(TEMPERATURE_ALARM_EVENT_DATA) == 16, "TEMPERATURE_ALARM_EVENT_DATA size");
+
+// ===========================================================================
+// Errors and version
+// ===========================================================================
+
+// The library's account of the last error on a reader.
+struct ERROR_INFO {
+  SYSTEMTIME errorTimeStamp;
+  uint32_t rfidStatusCode;  // RFID_STATUS value
+  wchar_t statusDesc[kMaxWideChars];
+  wchar_t vendorMessage[265];
+};
+static_assert(offsetof(ERROR_INFO, errorTimeStamp) == 0, "ERROR_INFO layout");
+static_assert(offsetof(ERROR_INFO, rfidStatusCode) == 16, "ERROR_INFO layout");
+static_assert(offsetof(ERROR_INFO, statusDesc) == 20, "ERROR_INFO layout");
+static_assert(offsetof(ERROR_INFO, vendorMessage) == 1060, "ERROR_INFO layout");
+static_assert(sizeof(ERROR_INFO) == 2120, "ERROR_INFO size");
+
+// Version text of the C library.
+struct VERSION_INFO {
+  wchar_t dllVersion[262];
+};
+static_assert(offsetof(VERSION_INFO, dllVersion) == 0, "VERSION_INFO layout");
+static_assert(sizeof(VERSION_INFO) == 1048, "VERSION_INFO size");
+
+// ===========================================================================
+// Tags, inventory, filters and triggers
+// ===========================================================================
+
+// Seen times in calendar form.
+struct UTC_TIME {
+  SYSTEMTIME firstSeenTimeStamp;
+  SYSTEMTIME lastSeenTimeStamp;
+};
+static_assert(offsetof(UTC_TIME, firstSeenTimeStamp) == 0, "UTC_TIME layout");
+static_assert(offsetof(UTC_TIME, lastSeenTimeStamp) == 16, "UTC_TIME layout");
+static_assert(sizeof(UTC_TIME) == 32, "UTC_TIME size");
+
+// Seen times as 64-bit counts since the reader came up.
+struct UP_TIME {
+  uint64_t firstSeenTimeStamp;
+  uint64_t lastSeenTimeStamp;
+};
+static_assert(offsetof(UP_TIME, firstSeenTimeStamp) == 0, "UP_TIME layout");
+static_assert(offsetof(UP_TIME, lastSeenTimeStamp) == 8, "UP_TIME layout");
+static_assert(sizeof(UP_TIME) == 16, "UP_TIME size");
+
+// First and last time a tag was seen; the caller knows which form it holds.
+union SEEN_TIME {
+  UTC_TIME utcTime;
+  UP_TIME upTime;
+};
+static_assert(sizeof(SEEN_TIME) == 32, "SEEN_TIME size");
+
+// Location data of a tag; only the leading distance is ours.
+struct LOCATION_INFO {
+  int16_t relativeDistance;
+};
+static_assert(offsetof(LOCATION_INFO, relativeDistance) == 0, "LOCATION_INFO layout");
+static_assert(sizeof(LOCATION_INFO) == 2, "LOCATION_INFO size");
+
+// GPS position reported with a tag.
+struct GPS_LOCATION {
+  int32_t longitude;
+  int32_t latitude;
+  int32_t altitude;
+};
+static_assert(offsetof(GPS_LOCATION, longitude) == 0, "GPS_LOCATION layout");
+static_assert(offsetof(GPS_LOCATION, latitude) == 4, "GPS_LOCATION layout");
+static_assert(offsetof(GPS_LOCATION, altitude) == 8, "GPS_LOCATION layout");
+static_assert(sizeof(GPS_LOCATION) == 12, "GPS_LOCATION size");
+
+// Operation codes of TAG_DATA::opCode whose pOpResult we read.
+constexpr uint32_t kOpCodeImpinjQt = 21;                 // pOpResult -> QT_OP_RESULT
+constexpr uint32_t kOpCodeNxpChangeConfig = 22;          // pOpResult -> CHANGE_CONFIG_OP_RESULT
+constexpr uint32_t kOpCodeGen2v2Authenticate = 23;       // pOpResult -> BIT_STRING_OP_RESULT
+constexpr uint32_t kOpCodeGen2v2ReadBuffer = 24;         // pOpResult -> BIT_STRING_OP_RESULT
+constexpr uint32_t kOpCodeGen2v2BitStringReply = 26;     // pOpResult -> BIT_STRING_OP_RESULT
+
+// Result of an Impinj QT operation: the QT control word.
+struct QT_OP_RESULT {
+  int16_t qtControlData;
+};
+static_assert(offsetof(QT_OP_RESULT, qtControlData) == 0, "QT_OP_RESULT layout");
+static_assert(sizeof(QT_OP_RESULT) == 2, "QT_OP_RESULT size");
+
+// Result of an NXP change-config operation: the config word.
+struct CHANGE_CONFIG_OP_RESULT {
+  int16_t ChangeConfigWord;
+};
+static_assert(offsetof(CHANGE_CONFIG_OP_RESULT, ChangeConfigWord) == 0,
+              "CHANGE_CONFIG_OP_RESULT layout");
+static_assert(sizeof(CHANGE_CONFIG_OP_RESULT) == 2, "CHANGE_CONFIG_OP_RESULT size");
+
+// Result of a Gen2v2 operation that replies with a bit string.
+struct BIT_STRING_OP_RESULT {
+  uint16_t lengthInBits;
+  uint8_t pad2[6];
+  uint8_t* pReply;
+};
+static_assert(offsetof(BIT_STRING_OP_RESULT, lengthInBits) == 0, "BIT_STRING_OP_RESULT layout");
+static_assert(offsetof(BIT_STRING_OP_RESULT, pReply) == 8, "BIT_STRING_OP_RESULT layout");
+static_assert(sizeof(BIT_STRING_OP_RESULT) == 16, "BIT_STRING_OP_RESULT size");
+
+// One tag as the library reports it. The library allocates and owns it
+// (RFID_AllocateTag / RFID_DeallocateTag); the reserved areas are its own.
+struct TAG_DATA {
+  uint32_t memoryAllocated;  // the record's embedded STRUCT_INFO header
+  uint32_t memoryUsed;
+  uint8_t* pTagID;
+  uint32_t tagIDLength;
+  uint32_t tagIDAllocated;
+  uint16_t PC;
+  uint8_t pad26[2];
+  uint32_t XPC;
+  uint16_t CRC;
+  int16_t antennaID;
+  uint8_t reserved36[4];
+  SEEN_TIME seenTime;
+  int8_t peakRSSI;
+  uint8_t pad73[1];
+  int16_t channelIndex;
+  int16_t tagSeenCount;
+  uint8_t pad78[2];
+  uint32_t opCode;
+  uint32_t opStatus;
+  uint32_t memoryBank;
+  uint8_t reserved92[4];
+  uint8_t* pMemoryBankData;
+  uint32_t memoryBankDataByteOffset;
+  uint32_t memoryBankDataLength;
+  uint32_t memoryBankDataAllocated;
+  uint32_t tagEvent;
+  SYSTEMTIME tagEventTimeStamp;
+  LOCATION_INFO* pLocationInfo;
+  void* pOpResult;  // record type chosen by opCode (kOpCode* above)
+  uint8_t reserved152[16];
+  int16_t phaseInfo;
+  uint8_t reserved170[14];
+  GPS_LOCATION* pGpsLocation;
+};
+static_assert(offsetof(TAG_DATA, memoryAllocated) == 0, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, memoryUsed) == 4, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, pTagID) == 8, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, tagIDLength) == 16, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, tagIDAllocated) == 20, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, PC) == 24, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, XPC) == 28, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, CRC) == 32, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, antennaID) == 34, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, reserved36) == 36, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, seenTime) == 40, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, seenTime.utcTime.firstSeenTimeStamp) == 40, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, seenTime.utcTime.lastSeenTimeStamp) == 56, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, seenTime.upTime.firstSeenTimeStamp) == 40, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, seenTime.upTime.lastSeenTimeStamp) == 48, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, peakRSSI) == 72, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, channelIndex) == 74, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, tagSeenCount) == 76, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, opCode) == 80, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, opStatus) == 84, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, memoryBank) == 88, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, reserved92) == 92, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, pMemoryBankData) == 96, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, memoryBankDataByteOffset) == 104, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, memoryBankDataLength) == 108, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, memoryBankDataAllocated) == 112, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, tagEvent) == 116, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, tagEventTimeStamp) == 120, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, pLocationInfo) == 136, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, pOpResult) == 144, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, reserved152) == 152, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, phaseInfo) == 168, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, reserved170) == 170, "TAG_DATA layout");
+static_assert(offsetof(TAG_DATA, pGpsLocation) == 184, "TAG_DATA layout");
+static_assert(sizeof(TAG_DATA) == 192, "TAG_DATA size");
+
+// Antennas an operation runs on, with one operation qualifier per antenna.
+// Both arrays belong to the caller.
+struct ANTENNA_INFO {
+  uint16_t* antennaList;
+  uint32_t length;
+  uint8_t pad12[4];
+  uint32_t* antennaOpList;  // OPERATION_QUALIFIER values
+};
+static_assert(offsetof(ANTENNA_INFO, antennaList) == 0, "ANTENNA_INFO layout");
+static_assert(offsetof(ANTENNA_INFO, length) == 8, "ANTENNA_INFO layout");
+static_assert(offsetof(ANTENNA_INFO, antennaOpList) == 16, "ANTENNA_INFO layout");
+static_assert(sizeof(ANTENNA_INFO) == 24, "ANTENNA_INFO size");
+
+// A masked bit pattern matched against a memory bank.
+struct TAG_PATTERN {
+  uint32_t memoryBank;  // MEMORY_BANK
+  uint16_t bitOffset;
+  uint8_t pad6[2];
+  uint8_t* tagPattern;
+  uint16_t tagPatternBitCount;
+  uint8_t pad18[6];
+  uint8_t* tagMask;
+  uint16_t tagMaskBitCount;
+  uint8_t pad34[6];
+};
+static_assert(offsetof(TAG_PATTERN, memoryBank) == 0, "TAG_PATTERN layout");
+static_assert(offsetof(TAG_PATTERN, bitOffset) == 4, "TAG_PATTERN layout");
+static_assert(offsetof(TAG_PATTERN, tagPattern) == 8, "TAG_PATTERN layout");
+static_assert(offsetof(TAG_PATTERN, tagPatternBitCount) == 16, "TAG_PATTERN layout");
+static_assert(offsetof(TAG_PATTERN, tagMask) == 24, "TAG_PATTERN layout");
+static_assert(offsetof(TAG_PATTERN, tagMaskBitCount) == 32, "TAG_PATTERN layout");
+static_assert(sizeof(TAG_PATTERN) == 40, "TAG_PATTERN size");
+
+// Peak RSSI window (dBm) that a tag must fall in, or out of.
+struct RSSI_RANGE_FILTER {
+  int8_t peakRSSILowerLimit;
+  int8_t peakRSSIUpperLimit;
+  uint8_t pad2[2];
+  uint32_t matchRange;  // MATCH_RANGE
+  uint8_t reserved8[32];
+};
+static_assert(offsetof(RSSI_RANGE_FILTER, peakRSSILowerLimit) == 0, "RSSI_RANGE_FILTER layout");
+static_assert(offsetof(RSSI_RANGE_FILTER, peakRSSIUpperLimit) == 1, "RSSI_RANGE_FILTER layout");
+static_assert(offsetof(RSSI_RANGE_FILTER, matchRange) == 4, "RSSI_RANGE_FILTER layout");
+static_assert(offsetof(RSSI_RANGE_FILTER, reserved8) == 8, "RSSI_RANGE_FILTER layout");
+static_assert(sizeof(RSSI_RANGE_FILTER) == 40, "RSSI_RANGE_FILTER size");
+
+// Which tags an access operation applies to: up to two patterns combined by
+// matchPattern, and an optional RSSI window.
+struct ACCESS_FILTER {
+  uint32_t memoryAllocated;
+  uint32_t memoryUsed;
+  TAG_PATTERN* tagPatternA;
+  TAG_PATTERN* tagPatternB;
+  uint32_t matchPattern;  // FILTER_MATCH_PATTERN
+  uint8_t pad28[4];
+  RSSI_RANGE_FILTER* rssiRangeFilter;
+};
+static_assert(offsetof(ACCESS_FILTER, memoryAllocated) == 0, "ACCESS_FILTER layout");
+static_assert(offsetof(ACCESS_FILTER, memoryUsed) == 4, "ACCESS_FILTER layout");
+static_assert(offsetof(ACCESS_FILTER, tagPatternA) == 8, "ACCESS_FILTER layout");
+static_assert(offsetof(ACCESS_FILTER, tagPatternB) == 16, "ACCESS_FILTER layout");
+static_assert(offsetof(ACCESS_FILTER, matchPattern) == 24, "ACCESS_FILTER layout");
+static_assert(offsetof(ACCESS_FILTER, rssiRangeFilter) == 32, "ACCESS_FILTER layout");
+static_assert(sizeof(ACCESS_FILTER) == 40, "ACCESS_FILTER size");
+
+// Which inventoried tags are reported; laid out exactly as ACCESS_FILTER.
+struct POST_FILTER {
+  uint32_t memoryAllocated;
+  uint32_t memoryUsed;
+  TAG_PATTERN* tagPatternA;
+  TAG_PATTERN* tagPatternB;
+  uint32_t matchPattern;  // FILTER_MATCH_PATTERN
+  uint8_t pad28[4];
+  RSSI_RANGE_FILTER* rssiRangeFilter;
+};
+static_assert(offsetof(POST_FILTER, memoryAllocated) == 0, "POST_FILTER layout");
+static_assert(offsetof(POST_FILTER, memoryUsed) == 4, "POST_FILTER layout");
+static_assert(offsetof(POST_FILTER, tagPatternA) == 8, "POST_FILTER layout");
+static_assert(offsetof(POST_FILTER, tagPatternB) == 16, "POST_FILTER layout");
+static_assert(offsetof(POST_FILTER, matchPattern) == 24, "POST_FILTER layout");
+static_assert(offsetof(POST_FILTER, rssiRangeFilter) == 32, "POST_FILTER layout");
+static_assert(sizeof(POST_FILTER) == 40, "POST_FILTER size");
+
+// Time of day for time-lapse start triggers.
+struct TIMEOFDAY {
+  uint16_t Hour;
+  uint16_t Minute;
+  uint16_t Second;
+};
+static_assert(offsetof(TIMEOFDAY, Hour) == 0, "TIMEOFDAY layout");
+static_assert(offsetof(TIMEOFDAY, Minute) == 2, "TIMEOFDAY layout");
+static_assert(offsetof(TIMEOFDAY, Second) == 4, "TIMEOFDAY layout");
+static_assert(sizeof(TIMEOFDAY) == 6, "TIMEOFDAY size");
+
+// Start trigger type 1: start every periodMilliseconds from startTime.
+struct PERIODIC_TRIGGER {
+  uint32_t periodMilliseconds;
+  uint8_t pad4[4];
+  SYSTEMTIME* startTime;
+};
+static_assert(offsetof(PERIODIC_TRIGGER, periodMilliseconds) == 0, "PERIODIC_TRIGGER layout");
+static_assert(offsetof(PERIODIC_TRIGGER, startTime) == 8, "PERIODIC_TRIGGER layout");
+static_assert(sizeof(PERIODIC_TRIGGER) == 16, "PERIODIC_TRIGGER size");
+
+// Start type 2 / stop type 2: a GPI port reaching a state, with a time-out.
+struct GPI_TRIGGER {
+  uint16_t portNumber;
+  RFID_BOOL eventInfo;
+  uint8_t pad3[1];
+  uint32_t timeoutMilliseconds;
+};
+static_assert(offsetof(GPI_TRIGGER, portNumber) == 0, "GPI_TRIGGER layout");
+static_assert(offsetof(GPI_TRIGGER, eventInfo) == 2, "GPI_TRIGGER layout");
+static_assert(offsetof(GPI_TRIGGER, timeoutMilliseconds) == 4, "GPI_TRIGGER layout");
+static_assert(sizeof(GPI_TRIGGER) == 8, "GPI_TRIGGER size");
+
+// Start type 3 / stop type 5: a handheld trigger event, with a time-out.
+struct HANDHELD_TRIGGER {
+  uint32_t handheldEvent;  // HANDHELD_TRIGGER_EVENT_TYPE
+  uint32_t timeoutMilliseconds;
+};
+static_assert(offsetof(HANDHELD_TRIGGER, handheldEvent) == 0, "HANDHELD_TRIGGER layout");
+static_assert(offsetof(HANDHELD_TRIGGER, timeoutMilliseconds) == 4, "HANDHELD_TRIGGER layout");
+static_assert(sizeof(HANDHELD_TRIGGER) == 8, "HANDHELD_TRIGGER size");
+
+// Start trigger type 4: start at a time of day, then every period.
+struct TIMELAPSE_START_TRIGGER {
+  TIMEOFDAY* startTime;
+  uint32_t period;
+  uint8_t pad12[4];
+};
+static_assert(offsetof(TIMELAPSE_START_TRIGGER, startTime) == 0, "TIMELAPSE_START_TRIGGER layout");
+static_assert(offsetof(TIMELAPSE_START_TRIGGER, period) == 8, "TIMELAPSE_START_TRIGGER layout");
+static_assert(sizeof(TIMELAPSE_START_TRIGGER) == 16, "TIMELAPSE_START_TRIGGER size");
+
+// Start trigger type 5: start after a distance.
+struct DISTANCE_TRIGGER {
+  uint32_t value;
+};
+static_assert(offsetof(DISTANCE_TRIGGER, value) == 0, "DISTANCE_TRIGGER layout");
+static_assert(sizeof(DISTANCE_TRIGGER) == 4, "DISTANCE_TRIGGER size");
+
+// Start trigger value, chosen by START_TRIGGER::type. periodic and timelapse
+// overlap on purpose: callers preset both time pointers before filling.
+union START_TRIGGER_VALUE {
+  PERIODIC_TRIGGER periodic;
+  GPI_TRIGGER gpi;
+  HANDHELD_TRIGGER handheld;
+  TIMELAPSE_START_TRIGGER timelapse;
+  DISTANCE_TRIGGER distance;
+};
+static_assert(sizeof(START_TRIGGER_VALUE) == 16, "START_TRIGGER_VALUE size");
+
+// When an operation starts.
+struct START_TRIGGER {
+  uint32_t type;  // START_TRIGGER_TYPE, 0..5
+  uint8_t pad4[4];
+  START_TRIGGER_VALUE value;
+};
+static_assert(offsetof(START_TRIGGER, type) == 0, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value) == 8, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.periodic.periodMilliseconds) == 8, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.periodic.startTime) == 16, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.gpi.portNumber) == 8, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.gpi.eventInfo) == 10, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.gpi.timeoutMilliseconds) == 12, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.handheld.handheldEvent) == 8, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.handheld.timeoutMilliseconds) == 12,
+              "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.timelapse.startTime) == 8, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.timelapse.period) == 16, "START_TRIGGER layout");
+static_assert(offsetof(START_TRIGGER, value.distance.value) == 8, "START_TRIGGER layout");
+static_assert(sizeof(START_TRIGGER) == 24, "START_TRIGGER size");
+
+// Stop types 3 and 4: n tag observations or n attempts, with a time-out.
+struct TRIGGER_WITH_TIMEOUT {
+  uint16_t n;
+  uint8_t pad2[2];
+  uint32_t timeoutMilliseconds;
+};
+static_assert(offsetof(TRIGGER_WITH_TIMEOUT, n) == 0, "TRIGGER_WITH_TIMEOUT layout");
+static_assert(offsetof(TRIGGER_WITH_TIMEOUT, timeoutMilliseconds) == 4,
+              "TRIGGER_WITH_TIMEOUT layout");
+static_assert(sizeof(TRIGGER_WITH_TIMEOUT) == 8, "TRIGGER_WITH_TIMEOUT size");
+
+// Stop trigger type 6: a total duration cut into periods.
+struct TIMELAPSE_STOP_TRIGGER {
+  uint32_t totalDuration;
+  uint32_t periodicDuration;
+};
+static_assert(offsetof(TIMELAPSE_STOP_TRIGGER, totalDuration) == 0, "TIMELAPSE_STOP_TRIGGER layout");
+static_assert(offsetof(TIMELAPSE_STOP_TRIGGER, periodicDuration) == 4,
+              "TIMELAPSE_STOP_TRIGGER layout");
+static_assert(sizeof(TIMELAPSE_STOP_TRIGGER) == 8, "TIMELAPSE_STOP_TRIGGER size");
+
+// Stop trigger value, chosen by STOP_TRIGGER::type.
+union STOP_TRIGGER_VALUE {
+  uint32_t duration;  // type 1, milliseconds
+  GPI_TRIGGER gpi;
+  TRIGGER_WITH_TIMEOUT tagObservation;
+  TRIGGER_WITH_TIMEOUT numAttempts;
+  HANDHELD_TRIGGER handheld;
+  TIMELAPSE_STOP_TRIGGER timelapse;
+};
+static_assert(sizeof(STOP_TRIGGER_VALUE) == 8, "STOP_TRIGGER_VALUE size");
+
+// When an operation stops.
+struct STOP_TRIGGER {
+  uint32_t type;  // STOP_TRIGGER_TYPE, 0..6
+  STOP_TRIGGER_VALUE value;
+};
+static_assert(offsetof(STOP_TRIGGER, type) == 0, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.duration) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.gpi.portNumber) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.gpi.eventInfo) == 6, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.gpi.timeoutMilliseconds) == 8, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.tagObservation.n) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.tagObservation.timeoutMilliseconds) == 8,
+              "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.numAttempts.n) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.numAttempts.timeoutMilliseconds) == 8,
+              "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.handheld.handheldEvent) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.handheld.timeoutMilliseconds) == 8,
+              "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.timelapse.totalDuration) == 4, "STOP_TRIGGER layout");
+static_assert(offsetof(STOP_TRIGGER, value.timelapse.periodicDuration) == 8, "STOP_TRIGGER layout");
+static_assert(sizeof(STOP_TRIGGER) == 12, "STOP_TRIGGER size");
+
+// Which tag events are reported, each with its moderation time-out. We
+// fill the first 32 bytes; callers reserve 48.
+struct TAG_EVENT_REPORT_INFO {
+  uint32_t reportNewTagEvent;  // TAG_EVENT_REPORT_TRIGGER
+  uint16_t newTagEventModeratedTimeoutMilliseconds;
+  uint8_t pad6[2];
+  uint32_t reportTagInvisibleEvent;  // TAG_EVENT_REPORT_TRIGGER
+  uint16_t tagInvisibleEventModeratedTimeoutMilliseconds;
+  uint8_t pad14[2];
+  uint32_t reportTagBackToVisibilityEvent;  // TAG_EVENT_REPORT_TRIGGER
+  uint16_t tagBackToVisibilityModeratedTimeoutMilliseconds;
+  uint8_t pad22[2];
+  uint32_t reportTagMovingEvent;  // TAG_MOVING_EVENT_REPORT
+  uint16_t tagStationaryModeratedTimeoutMilliseconds;
+  uint8_t pad30[2];
+  uint8_t reserved32[16];
+};
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, reportNewTagEvent) == 0,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, newTagEventModeratedTimeoutMilliseconds) == 4,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, reportTagInvisibleEvent) == 8,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, tagInvisibleEventModeratedTimeoutMilliseconds) == 12,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, reportTagBackToVisibilityEvent) == 16,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, tagBackToVisibilityModeratedTimeoutMilliseconds) == 20,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, reportTagMovingEvent) == 24,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, tagStationaryModeratedTimeoutMilliseconds) == 28,
+              "TAG_EVENT_REPORT_INFO layout");
+static_assert(offsetof(TAG_EVENT_REPORT_INFO, reserved32) == 32, "TAG_EVENT_REPORT_INFO layout");
+static_assert(sizeof(TAG_EVENT_REPORT_INFO) == 48, "TAG_EVENT_REPORT_INFO size");
+
+// Periodic tag reports; callers reserve and zero 40 bytes.
+struct REPORT_TRIGGERS {
+  uint32_t periodicReportDuration;
+  uint8_t reserved4[36];
+};
+static_assert(offsetof(REPORT_TRIGGERS, periodicReportDuration) == 0, "REPORT_TRIGGERS layout");
+static_assert(offsetof(REPORT_TRIGGERS, reserved4) == 4, "REPORT_TRIGGERS layout");
+static_assert(sizeof(REPORT_TRIGGERS) == 40, "REPORT_TRIGGERS size");
+
+// Up to seven further start and seven further stop triggers.
+struct EXTRA_TRIGGER_INFO {
+  START_TRIGGER startTrigger[7];
+  STOP_TRIGGER stopTrigger[7];
+  uint8_t reserved252[4];
+};
+static_assert(offsetof(EXTRA_TRIGGER_INFO, startTrigger) == 0, "EXTRA_TRIGGER_INFO layout");
+static_assert(offsetof(EXTRA_TRIGGER_INFO, startTrigger[3]) == 72, "EXTRA_TRIGGER_INFO layout");
+static_assert(offsetof(EXTRA_TRIGGER_INFO, stopTrigger) == 168, "EXTRA_TRIGGER_INFO layout");
+static_assert(offsetof(EXTRA_TRIGGER_INFO, stopTrigger[1]) == 180, "EXTRA_TRIGGER_INFO layout");
+static_assert(offsetof(EXTRA_TRIGGER_INFO, reserved252) == 252, "EXTRA_TRIGGER_INFO layout");
+static_assert(sizeof(EXTRA_TRIGGER_INFO) == 256, "EXTRA_TRIGGER_INFO size");
+
+// When an inventory, EAS scan or access sequence starts and stops, and what
+// it reports. We fill bytes 0..63; callers reserve 80 and leave 64..79 to
+// the library.
+struct TRIGGER_INFO {
+  START_TRIGGER startTrigger;
+  STOP_TRIGGER stopTrigger;
+  uint32_t tagReportTrigger;
+  TAG_EVENT_REPORT_INFO* tagEventReportInfo;
+  REPORT_TRIGGERS* reportTriggers;
+  EXTRA_TRIGGER_INFO* extraTriggers;
+  uint8_t reserved64[16];
+};
+static_assert(offsetof(TRIGGER_INFO, startTrigger) == 0, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, startTrigger.value) == 8, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, startTrigger.value.periodic.startTime) == 16,
+              "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, stopTrigger) == 24, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, stopTrigger.value) == 28, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, tagReportTrigger) == 36, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, tagEventReportInfo) == 40, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, reportTriggers) == 48, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, extraTriggers) == 56, "TRIGGER_INFO layout");
+static_assert(offsetof(TRIGGER_INFO, reserved64) == 64, "TRIGGER_INFO layout");
+static_assert(sizeof(TRIGGER_INFO) == 80, "TRIGGER_INFO size");
+
+// A select rule applied on an antenna before singulation. The action
+// parameter at 24 is either a state-unaware action or a state-aware target.
+struct PRE_FILTER {
+  uint32_t memoryBank;  // MEMORY_BANK
+  uint8_t pad4[4];
+  uint8_t* tagPattern;
+  uint16_t tagPatternBitCount;
+  uint16_t bitOffset;
+  uint32_t filterAction;  // FILTER_ACTION
+  union {
+    uint32_t stateUnawareAction;  // STATE_UNAWARE_ACTION
+    uint32_t target;              // TARGET
+  };
+  uint32_t stateAwareAction;  // STATE_AWARE_ACTION
+  uint32_t truncateAction;    // TRUNCATE_ACTION
+  uint8_t pad36[4];
+};
+static_assert(offsetof(PRE_FILTER, memoryBank) == 0, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, tagPattern) == 8, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, tagPatternBitCount) == 16, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, bitOffset) == 18, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, filterAction) == 20, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, stateUnawareAction) == 24, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, target) == 24, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, stateAwareAction) == 28, "PRE_FILTER layout");
+static_assert(offsetof(PRE_FILTER, truncateAction) == 32, "PRE_FILTER layout");
+static_assert(sizeof(PRE_FILTER) == 40, "PRE_FILTER size");
+
+// How many tags, and how much of each, the library buffers for retrieval.
+struct TAG_STORAGE_SETTINGS {
+  uint32_t maxTagCount;
+  uint32_t maxMemoryBankByteCount;
+  uint32_t maxTagIDByteCount;
+  uint16_t tagFields;
+  RFID_BOOL enableAccessReports;
+  RFID_BOOL discardTagsOnInventoryStop;
+};
+static_assert(offsetof(TAG_STORAGE_SETTINGS, maxTagCount) == 0, "TAG_STORAGE_SETTINGS layout");
+static_assert(offsetof(TAG_STORAGE_SETTINGS, maxMemoryBankByteCount) == 4,
+              "TAG_STORAGE_SETTINGS layout");
+static_assert(offsetof(TAG_STORAGE_SETTINGS, maxTagIDByteCount) == 8, "TAG_STORAGE_SETTINGS layout");
+static_assert(offsetof(TAG_STORAGE_SETTINGS, tagFields) == 12, "TAG_STORAGE_SETTINGS layout");
+static_assert(offsetof(TAG_STORAGE_SETTINGS, enableAccessReports) == 14,
+              "TAG_STORAGE_SETTINGS layout");
+static_assert(offsetof(TAG_STORAGE_SETTINGS, discardTagsOnInventoryStop) == 15,
+              "TAG_STORAGE_SETTINGS layout");
+static_assert(sizeof(TAG_STORAGE_SETTINGS) == 16, "TAG_STORAGE_SETTINGS size");
+
+// How an antenna singulates: session, expected population, transit time and
+// the state-aware action (perform, inventoryState, slFlag).
+struct SINGULATION_CONTROL {
+  uint32_t session;  // SESSION
+  uint16_t tagPopulation;
+  uint16_t tagTransitTimeMilliseconds;
+  RFID_BOOL perform;
+  uint8_t pad9[3];
+  uint32_t inventoryState;  // INVENTORY_STATE
+  uint32_t slFlag;          // SL_FLAG
+};
+static_assert(offsetof(SINGULATION_CONTROL, session) == 0, "SINGULATION_CONTROL layout");
+static_assert(offsetof(SINGULATION_CONTROL, tagPopulation) == 4, "SINGULATION_CONTROL layout");
+static_assert(offsetof(SINGULATION_CONTROL, tagTransitTimeMilliseconds) == 6,
+              "SINGULATION_CONTROL layout");
+static_assert(offsetof(SINGULATION_CONTROL, perform) == 8, "SINGULATION_CONTROL layout");
+static_assert(offsetof(SINGULATION_CONTROL, inventoryState) == 12, "SINGULATION_CONTROL layout");
+static_assert(offsetof(SINGULATION_CONTROL, slFlag) == 16, "SINGULATION_CONTROL layout");
+static_assert(sizeof(SINGULATION_CONTROL) == 20, "SINGULATION_CONTROL size");
+
+// ===========================================================================
+// Functions
+// ===========================================================================
+
+extern "C" {
+
+// --- Connection and session ------------------------------------------------
+
+// connParam1 and connParam2 are passed through from Java untouched.
+RFID_STATUS RFID_ConnectW(READER_HANDLE* readerHandle, const wchar_t* hostName,
+                          uint32_t connParam1, uint32_t connParam2,
+                          CONNECTION_INFO* connectionInfo);
+RFID_STATUS RFID_Reconnect(READER_HANDLE readerHandle);
+RFID_STATUS RFID_Disconnect(READER_HANDLE readerHandle);
+
+// readerType: ordinal of the reader-kind enumeration; reserved is always NULL.
+RFID_STATUS RFID_LoginW(READER_HANDLE* readerHandle, LOGIN_INFO* loginInfo, uint32_t readerType,
+                        RFID_BOOL flag, void* reserved);
+RFID_STATUS RFID_Logout(READER_HANDLE readerHandle);
+RFID_STATUS RFID_Restart(READER_HANDLE readerHandle);
+
+RFID_STATUS RFID_GetLLRPConnectionConfigW(READER_HANDLE readerHandle,
+                                          LLRP_CONNECTION_CONFIG* config);
+RFID_STATUS RFID_SetLLRPConnectionConfigW(READER_HANDLE readerHandle,
+                                          LLRP_CONNECTION_CONFIG* config);
+RFID_STATUS RFID_InitiateLLRPConnectionFromReader(READER_HANDLE readerHandle,
+                                                  LLRP_INITIATE_SCRATCH* scratch);
+RFID_STATUS RFID_DisconnectLLRPConnectionFromReader(READER_HANDLE readerHandle);
+// passThrough: the Java long, handed on unchanged.
+RFID_STATUS RFID_AcceptConnection(READER_HANDLE* readerHandle, int64_t passThrough,
+                                  ACCEPT_CONNECTION_INFO* acceptInfo,
+                                  ACCEPT_CONNECTION_SCRATCH* scratch);
+
+// --- Events ------------------------------------------------------------------
+// The event utilities answer with int32_t results (the wait result says which
+// object was signalled or that the time-out passed; the others are success
+// flags of the library); this library passes them to Java unchanged.
+
+EVENT_HANDLE rfidUtils_CreateEvent(void* reserved1, int32_t flag1, int32_t flag2,
+                                   void* reserved2);
+int32_t rfidUtils_SetEvent(EVENT_HANDLE eventHandle);
+int32_t rfidUtils_ResetEvent(EVENT_HANDLE eventHandle);
+int32_t rfidUtils_CloseHandle(EVENT_HANDLE eventHandle);
+int32_t rfidUtils_WaitForSingleObject(EVENT_HANDLE eventHandle, int64_t timeoutMilliseconds);
+int32_t rfidUtils_WaitForMultipleObjects(int64_t count, const EVENT_HANDLE* eventHandles,
+                                         RFID_BOOL waitAll, int64_t timeoutMilliseconds);
+
+// eventType: the event-type number (0..14).
+RFID_STATUS RFID_RegisterEventNotification(READER_HANDLE readerHandle, uint32_t eventType,
+                                           EVENT_HANDLE eventHandle);
+RFID_STATUS RFID_DeregisterEventNotification(READER_HANDLE readerHandle, uint32_t eventType);
+// eventData: the *_EVENT_DATA record of that type.
+RFID_STATUS RFID_GetEventData(READER_HANDLE readerHandle, uint32_t eventType, void* eventData);
+
+// --- Errors, version and trace -------------------------------------------------
+
+RFID_STATUS RFID_GetLastErrorInfoW(READER_HANDLE readerHandle, ERROR_INFO* errorInfo);
+// The text belongs to the library and is never freed.
+const wchar_t* RFID_GetErrorDescriptionW(RFID_STATUS statusCode);
+RFID_STATUS RFID_GetDllVersionInfoW(VERSION_INFO* versionInfo);
+RFID_STATUS RFID_SetTraceLevel(READER_HANDLE readerHandle, uint32_t traceLevel);
+
+// --- Tags, inventory, filters and triggers ------------------------------------
+
+TAG_DATA* RFID_AllocateTag(READER_HANDLE readerHandle);
+RFID_STATUS RFID_DeallocateTag(READER_HANDLE readerHandle, TAG_DATA* tagData);
+RFID_STATUS RFID_GetReadTag(READER_HANDLE readerHandle, TAG_DATA* tagData);
+// Fills tags[0..*readCount) with records that the library allocated; they go
+// back with rfid_DeallocateTags.
+RFID_STATUS rfid_GetReadTags(READER_HANDLE readerHandle, uint32_t maxCount, TAG_DATA** tags,
+                             uint32_t* readCount);
+RFID_STATUS rfid_DeallocateTags(READER_HANDLE readerHandle, TAG_DATA** tags, uint32_t count);
+
+// reserved is always NULL.
+RFID_STATUS RFID_PerformInventory(READER_HANDLE readerHandle, POST_FILTER* postFilter,
+                                  ANTENNA_INFO* antennaInfo, TRIGGER_INFO* triggerInfo,
+                                  void* reserved);
+RFID_STATUS RFID_StopInventory(READER_HANDLE readerHandle);
+// flags: always 0 here; 32 bits wide.
+RFID_STATUS RFID_PurgeTags(READER_HANDLE readerHandle, uint32_t flags);
+// reserved1 and reserved2 are always NULL.
+RFID_STATUS RFID_PerformTagLocationing(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                       uint32_t tagIDLength, ANTENNA_INFO* antennaInfo,
+                                       void* reserved1, void* reserved2);
+RFID_STATUS RFID_StopTagLocationing(READER_HANDLE readerHandle);
+RFID_STATUS RFID_PerformNXPEASScan(READER_HANDLE readerHandle, ANTENNA_INFO* antennaInfo,
+                                   TRIGGER_INFO* triggerInfo, void* reserved);
+RFID_STATUS RFID_StopNXPEASScan(READER_HANDLE readerHandle);
+
+RFID_STATUS RFID_AddPreFilter(READER_HANDLE readerHandle, uint16_t antennaID,
+                              PRE_FILTER* preFilter, uint32_t* filterIndex);
+RFID_STATUS RFID_DeletePreFilter(READER_HANDLE readerHandle, uint16_t antennaID,
+                                 uint32_t filterIndex);
+
+RFID_STATUS RFID_GetTagStorageSettings(READER_HANDLE readerHandle,
+                                       TAG_STORAGE_SETTINGS* settings);
+RFID_STATUS RFID_SetTagStorageSettings(READER_HANDLE readerHandle,
+                                       TAG_STORAGE_SETTINGS* settings);
+RFID_STATUS RFID_GetSingulationControl(READER_HANDLE readerHandle, uint16_t antennaID,
+                                       SINGULATION_CONTROL* control);
+RFID_STATUS RFID_SetSingulationControl(READER_HANDLE readerHandle, uint16_t antennaID,
+                                       SINGULATION_CONTROL* control);
+
+}  // extern "C"
