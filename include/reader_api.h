@@ -320,36 +320,39 @@ static_assert(offsetof(GPS_LOCATION, altitude) == 8, "GPS_LOCATION layout");
 static_assert(sizeof(GPS_LOCATION) == 12, "GPS_LOCATION size");
 
 // Operation codes of TAG_DATA::opCode whose pOpResult we read.
-constexpr uint32_t kOpCodeImpinjQt = 21;                 // pOpResult -> QT_OP_RESULT
-constexpr uint32_t kOpCodeNxpChangeConfig = 22;          // pOpResult -> CHANGE_CONFIG_OP_RESULT
-constexpr uint32_t kOpCodeGen2v2Authenticate = 23;       // pOpResult -> BIT_STRING_OP_RESULT
-constexpr uint32_t kOpCodeGen2v2ReadBuffer = 24;         // pOpResult -> BIT_STRING_OP_RESULT
-constexpr uint32_t kOpCodeGen2v2BitStringReply = 26;     // pOpResult -> BIT_STRING_OP_RESULT
+constexpr uint32_t kOpCodeImpinjQt = 21;            // pOpResult -> IMPINJ_QT_DATA
+constexpr uint32_t kOpCodeNxpChangeConfig = 22;     // pOpResult -> NXP_CHANGE_CONFIG_WORD_RESULT
+constexpr uint32_t kOpCodeGen2v2Authenticate = 23;  // pOpResult -> AUTHENTICATE_READ_BUFFER_RESULT
+constexpr uint32_t kOpCodeGen2v2ReadBuffer = 24;    // pOpResult -> AUTHENTICATE_READ_BUFFER_RESULT
+constexpr uint32_t kOpCodeGen2v2OtherReply = 26;    // pOpResult -> AUTHENTICATE_READ_BUFFER_RESULT
 
 // Result of an Impinj QT operation: the QT control word.
-struct QT_OP_RESULT {
+struct IMPINJ_QT_DATA {
   int16_t qtControlData;
 };
-static_assert(offsetof(QT_OP_RESULT, qtControlData) == 0, "QT_OP_RESULT layout");
-static_assert(sizeof(QT_OP_RESULT) == 2, "QT_OP_RESULT size");
+static_assert(offsetof(IMPINJ_QT_DATA, qtControlData) == 0, "IMPINJ_QT_DATA layout");
+static_assert(sizeof(IMPINJ_QT_DATA) == 2, "IMPINJ_QT_DATA size");
 
 // Result of an NXP change-config operation: the config word.
-struct CHANGE_CONFIG_OP_RESULT {
+struct NXP_CHANGE_CONFIG_WORD_RESULT {
   int16_t ChangeConfigWord;
 };
-static_assert(offsetof(CHANGE_CONFIG_OP_RESULT, ChangeConfigWord) == 0,
-              "CHANGE_CONFIG_OP_RESULT layout");
-static_assert(sizeof(CHANGE_CONFIG_OP_RESULT) == 2, "CHANGE_CONFIG_OP_RESULT size");
+static_assert(offsetof(NXP_CHANGE_CONFIG_WORD_RESULT, ChangeConfigWord) == 0,
+              "NXP_CHANGE_CONFIG_WORD_RESULT layout");
+static_assert(sizeof(NXP_CHANGE_CONFIG_WORD_RESULT) == 2, "NXP_CHANGE_CONFIG_WORD_RESULT size");
 
-// Result of a Gen2v2 operation that replies with a bit string.
-struct BIT_STRING_OP_RESULT {
+// Reply of a Gen2v2 operation that answers with a bit string
+// (authenticate, read buffer and the like).
+struct AUTHENTICATE_READ_BUFFER_RESULT {
   uint16_t lengthInBits;
   uint8_t pad2[6];
   uint8_t* pReply;
 };
-static_assert(offsetof(BIT_STRING_OP_RESULT, lengthInBits) == 0, "BIT_STRING_OP_RESULT layout");
-static_assert(offsetof(BIT_STRING_OP_RESULT, pReply) == 8, "BIT_STRING_OP_RESULT layout");
-static_assert(sizeof(BIT_STRING_OP_RESULT) == 16, "BIT_STRING_OP_RESULT size");
+static_assert(offsetof(AUTHENTICATE_READ_BUFFER_RESULT, lengthInBits) == 0,
+              "AUTHENTICATE_READ_BUFFER_RESULT layout");
+static_assert(offsetof(AUTHENTICATE_READ_BUFFER_RESULT, pReply) == 8,
+              "AUTHENTICATE_READ_BUFFER_RESULT layout");
+static_assert(sizeof(AUTHENTICATE_READ_BUFFER_RESULT) == 16, "AUTHENTICATE_READ_BUFFER_RESULT size");
 
 // One tag as the library reports it. The library allocates and owns it
 // (RFID_AllocateTag / RFID_DeallocateTag); the reserved areas are its own.
@@ -807,6 +810,337 @@ static_assert(offsetof(SINGULATION_CONTROL, slFlag) == 16, "SINGULATION_CONTROL 
 static_assert(sizeof(SINGULATION_CONTROL) == 20, "SINGULATION_CONTROL size");
 
 // ===========================================================================
+// Tag access
+// ===========================================================================
+// Every parameter record ends with 32 reserved bytes (four pointer-sized
+// words) that we never fill; the sizes below include them.
+
+// Gen2 read of byteCount bytes from byteOffset of a memory bank.
+struct READ_ACCESS_PARAMS {
+  uint32_t memoryBank;  // MEMORY_BANK
+  uint16_t byteOffset;
+  uint16_t byteCount;
+  uint32_t accessPassword;
+  uint8_t pad12[4];
+  alignas(8) uint8_t reserved16[32];
+};
+static_assert(offsetof(READ_ACCESS_PARAMS, memoryBank) == 0, "READ_ACCESS_PARAMS layout");
+static_assert(offsetof(READ_ACCESS_PARAMS, byteOffset) == 4, "READ_ACCESS_PARAMS layout");
+static_assert(offsetof(READ_ACCESS_PARAMS, byteCount) == 6, "READ_ACCESS_PARAMS layout");
+static_assert(offsetof(READ_ACCESS_PARAMS, accessPassword) == 8, "READ_ACCESS_PARAMS layout");
+static_assert(offsetof(READ_ACCESS_PARAMS, reserved16) == 16, "READ_ACCESS_PARAMS layout");
+static_assert(sizeof(READ_ACCESS_PARAMS) == 48, "READ_ACCESS_PARAMS size");
+
+// Gen2 block erase; laid out as READ_ACCESS_PARAMS.
+struct BLOCK_ERASE_ACCESS_PARAMS {
+  uint32_t memoryBank;  // MEMORY_BANK
+  uint16_t byteOffset;
+  uint16_t byteCount;
+  uint32_t accessPassword;
+  uint8_t pad12[4];
+  alignas(8) uint8_t reserved16[32];
+};
+static_assert(offsetof(BLOCK_ERASE_ACCESS_PARAMS, memoryBank) == 0,
+              "BLOCK_ERASE_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_ERASE_ACCESS_PARAMS, byteOffset) == 4,
+              "BLOCK_ERASE_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_ERASE_ACCESS_PARAMS, byteCount) == 6,
+              "BLOCK_ERASE_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_ERASE_ACCESS_PARAMS, accessPassword) == 8,
+              "BLOCK_ERASE_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_ERASE_ACCESS_PARAMS, reserved16) == 16,
+              "BLOCK_ERASE_ACCESS_PARAMS layout");
+static_assert(sizeof(BLOCK_ERASE_ACCESS_PARAMS) == 48, "BLOCK_ERASE_ACCESS_PARAMS size");
+
+// Gen2 write or block write of writeDataLength bytes at byteOffset.
+struct WRITE_ACCESS_PARAMS {
+  uint32_t memoryBank;  // MEMORY_BANK
+  uint16_t byteOffset;
+  uint8_t pad6[2];
+  uint8_t* writeData;
+  uint16_t writeDataLength;
+  uint8_t pad18[2];
+  uint32_t accessPassword;
+  alignas(8) uint8_t reserved24[32];
+};
+static_assert(offsetof(WRITE_ACCESS_PARAMS, memoryBank) == 0, "WRITE_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_ACCESS_PARAMS, byteOffset) == 4, "WRITE_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_ACCESS_PARAMS, writeData) == 8, "WRITE_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_ACCESS_PARAMS, writeDataLength) == 16, "WRITE_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_ACCESS_PARAMS, accessPassword) == 20, "WRITE_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_ACCESS_PARAMS, reserved24) == 24, "WRITE_ACCESS_PARAMS layout");
+static_assert(sizeof(WRITE_ACCESS_PARAMS) == 56, "WRITE_ACCESS_PARAMS size");
+
+// Number of lock privileges: one per Gen2 lockable field.
+constexpr size_t kLockPrivilegeCount = 5;
+
+// Gen2 lock: one privilege per lockable field.
+struct LOCK_ACCESS_PARAMS {
+  uint32_t enumPrivilege[kLockPrivilegeCount];
+  uint32_t accessPassword;
+  alignas(8) uint8_t reserved24[32];
+};
+static_assert(offsetof(LOCK_ACCESS_PARAMS, enumPrivilege) == 0, "LOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(LOCK_ACCESS_PARAMS, enumPrivilege[4]) == 16, "LOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(LOCK_ACCESS_PARAMS, accessPassword) == 20, "LOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(LOCK_ACCESS_PARAMS, reserved24) == 24, "LOCK_ACCESS_PARAMS layout");
+static_assert(sizeof(LOCK_ACCESS_PARAMS) == 56, "LOCK_ACCESS_PARAMS size");
+
+// Gen2 kill.
+struct KILL_ACCESS_PARAMS {
+  uint32_t killPassword;
+  uint8_t pad4[4];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(KILL_ACCESS_PARAMS, killPassword) == 0, "KILL_ACCESS_PARAMS layout");
+static_assert(offsetof(KILL_ACCESS_PARAMS, reserved8) == 8, "KILL_ACCESS_PARAMS layout");
+static_assert(sizeof(KILL_ACCESS_PARAMS) == 40, "KILL_ACCESS_PARAMS size");
+
+// Gen2 block permalock (or its read-back when readLock is 0) under a mask.
+struct BLOCK_PERMALOCK_ACCESS_PARAMS {
+  uint32_t memoryBank;  // MEMORY_BANK
+  RFID_BOOL readLock;
+  uint8_t pad5[1];
+  uint16_t byteOffset;
+  uint16_t byteCount;
+  uint8_t pad10[2];
+  uint32_t accessPassword;
+  uint8_t* mask;
+  uint16_t maskLength;
+  uint8_t pad26[6];
+  alignas(8) uint8_t reserved32[32];
+};
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, memoryBank) == 0,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, readLock) == 4,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, byteOffset) == 6,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, byteCount) == 8,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, accessPassword) == 12,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, mask) == 16,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, maskLength) == 24,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(offsetof(BLOCK_PERMALOCK_ACCESS_PARAMS, reserved32) == 32,
+              "BLOCK_PERMALOCK_ACCESS_PARAMS layout");
+static_assert(sizeof(BLOCK_PERMALOCK_ACCESS_PARAMS) == 64, "BLOCK_PERMALOCK_ACCESS_PARAMS size");
+
+// Gen2 recommission.
+struct RECOMMISSION_ACCESS_PARAMS {
+  uint32_t killPassword;
+  uint32_t opCode;  // RECOMMISSION_OPERATION_CODE
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(RECOMMISSION_ACCESS_PARAMS, killPassword) == 0,
+              "RECOMMISSION_ACCESS_PARAMS layout");
+static_assert(offsetof(RECOMMISSION_ACCESS_PARAMS, opCode) == 4,
+              "RECOMMISSION_ACCESS_PARAMS layout");
+static_assert(offsetof(RECOMMISSION_ACCESS_PARAMS, reserved8) == 8,
+              "RECOMMISSION_ACCESS_PARAMS layout");
+static_assert(sizeof(RECOMMISSION_ACCESS_PARAMS) == 40, "RECOMMISSION_ACCESS_PARAMS size");
+
+// Write of one whole tag field: access password, kill password or tag ID.
+struct WRITE_FIELD_ACCESS_PARAMS {
+  uint8_t* writeData;
+  uint16_t writeDataLength;
+  uint8_t pad10[2];
+  uint32_t accessPassword;
+  alignas(8) uint8_t reserved16[32];
+};
+static_assert(offsetof(WRITE_FIELD_ACCESS_PARAMS, writeData) == 0,
+              "WRITE_FIELD_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_FIELD_ACCESS_PARAMS, writeDataLength) == 8,
+              "WRITE_FIELD_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_FIELD_ACCESS_PARAMS, accessPassword) == 12,
+              "WRITE_FIELD_ACCESS_PARAMS layout");
+static_assert(offsetof(WRITE_FIELD_ACCESS_PARAMS, reserved16) == 16,
+              "WRITE_FIELD_ACCESS_PARAMS layout");
+static_assert(sizeof(WRITE_FIELD_ACCESS_PARAMS) == 48, "WRITE_FIELD_ACCESS_PARAMS size");
+
+// NXP read protect.
+struct NXP_READ_PROTECT_PARAMS {
+  uint32_t accessPassword;
+  uint8_t pad4[4];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(NXP_READ_PROTECT_PARAMS, accessPassword) == 0,
+              "NXP_READ_PROTECT_PARAMS layout");
+static_assert(offsetof(NXP_READ_PROTECT_PARAMS, reserved8) == 8, "NXP_READ_PROTECT_PARAMS layout");
+static_assert(sizeof(NXP_READ_PROTECT_PARAMS) == 40, "NXP_READ_PROTECT_PARAMS size");
+
+// NXP reset read protect.
+struct NXP_RESET_READ_PROTECT_PARAMS {
+  uint32_t accessPassword;
+  uint8_t pad4[4];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(NXP_RESET_READ_PROTECT_PARAMS, accessPassword) == 0,
+              "NXP_RESET_READ_PROTECT_PARAMS layout");
+static_assert(offsetof(NXP_RESET_READ_PROTECT_PARAMS, reserved8) == 8,
+              "NXP_RESET_READ_PROTECT_PARAMS layout");
+static_assert(sizeof(NXP_RESET_READ_PROTECT_PARAMS) == 40, "NXP_RESET_READ_PROTECT_PARAMS size");
+
+// NXP EAS bit on or off.
+struct NXP_SET_EAS_PARAMS {
+  uint32_t accessPassword;
+  RFID_BOOL EASState;
+  uint8_t pad5[3];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(NXP_SET_EAS_PARAMS, accessPassword) == 0, "NXP_SET_EAS_PARAMS layout");
+static_assert(offsetof(NXP_SET_EAS_PARAMS, EASState) == 4, "NXP_SET_EAS_PARAMS layout");
+static_assert(offsetof(NXP_SET_EAS_PARAMS, reserved8) == 8, "NXP_SET_EAS_PARAMS layout");
+static_assert(sizeof(NXP_SET_EAS_PARAMS) == 40, "NXP_SET_EAS_PARAMS size");
+
+// NXP change of the configuration word.
+struct NXP_CHANGE_CONFIG_PARAMS {
+  uint32_t accessPassword;
+  uint16_t ChangeConfigWord;
+  uint8_t pad6[2];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(NXP_CHANGE_CONFIG_PARAMS, accessPassword) == 0,
+              "NXP_CHANGE_CONFIG_PARAMS layout");
+static_assert(offsetof(NXP_CHANGE_CONFIG_PARAMS, ChangeConfigWord) == 4,
+              "NXP_CHANGE_CONFIG_PARAMS layout");
+static_assert(offsetof(NXP_CHANGE_CONFIG_PARAMS, reserved8) == 8, "NXP_CHANGE_CONFIG_PARAMS layout");
+static_assert(sizeof(NXP_CHANGE_CONFIG_PARAMS) == 40, "NXP_CHANGE_CONFIG_PARAMS size");
+
+// Impinj QT read of the control word.
+struct IMPINJ_QT_READ_PARAMS {
+  uint32_t accessPassword;
+  uint8_t pad4[4];
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(IMPINJ_QT_READ_PARAMS, accessPassword) == 0, "IMPINJ_QT_READ_PARAMS layout");
+static_assert(offsetof(IMPINJ_QT_READ_PARAMS, reserved8) == 8, "IMPINJ_QT_READ_PARAMS layout");
+static_assert(sizeof(IMPINJ_QT_READ_PARAMS) == 40, "IMPINJ_QT_READ_PARAMS size");
+
+// Impinj QT write: the control word (first member of an embedded QT data
+// record, whose other bytes we leave zero) and whether it persists.
+struct IMPINJ_QT_WRITE_PARAMS {
+  uint32_t accessPassword;
+  RFID_BOOL qtPersist;
+  uint8_t pad5[3];
+  uint16_t qtControlData;
+  uint8_t reserved10[38];
+  alignas(8) uint8_t reserved48[32];
+};
+static_assert(offsetof(IMPINJ_QT_WRITE_PARAMS, accessPassword) == 0,
+              "IMPINJ_QT_WRITE_PARAMS layout");
+static_assert(offsetof(IMPINJ_QT_WRITE_PARAMS, qtPersist) == 4, "IMPINJ_QT_WRITE_PARAMS layout");
+static_assert(offsetof(IMPINJ_QT_WRITE_PARAMS, qtControlData) == 8,
+              "IMPINJ_QT_WRITE_PARAMS layout");
+static_assert(offsetof(IMPINJ_QT_WRITE_PARAMS, reserved10) == 10, "IMPINJ_QT_WRITE_PARAMS layout");
+static_assert(offsetof(IMPINJ_QT_WRITE_PARAMS, reserved48) == 48, "IMPINJ_QT_WRITE_PARAMS layout");
+static_assert(sizeof(IMPINJ_QT_WRITE_PARAMS) == 80, "IMPINJ_QT_WRITE_PARAMS size");
+
+// Gen2v2 authenticate: a message of `length` bits for crypto suite CSI.
+struct AUTHENTICATE_PARAMS {
+  RFID_BOOL sendRsp;
+  RFID_BOOL incRespLen;
+  uint8_t CSI;
+  uint8_t pad3[1];
+  uint16_t length;  // in bits
+  uint8_t pad6[2];
+  uint8_t* pMessage;
+  uint32_t accessPassword;
+  uint8_t pad20[4];
+  alignas(8) uint8_t reserved24[32];
+};
+static_assert(offsetof(AUTHENTICATE_PARAMS, sendRsp) == 0, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, incRespLen) == 1, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, CSI) == 2, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, length) == 4, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, pMessage) == 8, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, accessPassword) == 16, "AUTHENTICATE_PARAMS layout");
+static_assert(offsetof(AUTHENTICATE_PARAMS, reserved24) == 24, "AUTHENTICATE_PARAMS layout");
+static_assert(sizeof(AUTHENTICATE_PARAMS) == 56, "AUTHENTICATE_PARAMS size");
+
+// Gen2v2 untraceable: what the tag hides and its operating range.
+struct UNTRACEABLE_PARAMS {
+  RFID_BOOL assertU;
+  RFID_BOOL hideEPC;
+  uint8_t EPCLength;
+  uint8_t pad3[1];
+  uint32_t hideTID;  // TID_HIDE_STATE
+  RFID_BOOL hideUser;
+  uint8_t pad9[3];
+  uint32_t operatingRange;  // TAG_OPERATING_RANGE
+  uint32_t accessPassword;
+  uint8_t pad20[4];
+  alignas(8) uint8_t reserved24[32];
+};
+static_assert(offsetof(UNTRACEABLE_PARAMS, assertU) == 0, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, hideEPC) == 1, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, EPCLength) == 2, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, hideTID) == 4, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, hideUser) == 8, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, operatingRange) == 12, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, accessPassword) == 16, "UNTRACEABLE_PARAMS layout");
+static_assert(offsetof(UNTRACEABLE_PARAMS, reserved24) == 24, "UNTRACEABLE_PARAMS layout");
+static_assert(sizeof(UNTRACEABLE_PARAMS) == 56, "UNTRACEABLE_PARAMS size");
+
+// Gen2v2 read buffer: bitCount bits from word wordPtr of the response buffer.
+struct READ_BUFFER_PARAMS {
+  uint16_t wordPtr;
+  uint16_t bitCount;
+  uint32_t accessPassword;
+  alignas(8) uint8_t reserved8[32];
+};
+static_assert(offsetof(READ_BUFFER_PARAMS, wordPtr) == 0, "READ_BUFFER_PARAMS layout");
+static_assert(offsetof(READ_BUFFER_PARAMS, bitCount) == 2, "READ_BUFFER_PARAMS layout");
+static_assert(offsetof(READ_BUFFER_PARAMS, accessPassword) == 4, "READ_BUFFER_PARAMS layout");
+static_assert(offsetof(READ_BUFFER_PARAMS, reserved8) == 8, "READ_BUFFER_PARAMS layout");
+static_assert(sizeof(READ_BUFFER_PARAMS) == 40, "READ_BUFFER_PARAMS size");
+
+// Number of 32-bit words of the crypto challenge.
+constexpr size_t kIChallengeWords = 3;
+
+// Gen2v2 crypto: key, challenge and suite parameters.
+struct CRYPTO_PARAMS {
+  uint8_t keyID;
+  uint8_t pad1[3];
+  uint32_t IChallenge[kIChallengeWords];
+  RFID_BOOL customData;
+  uint8_t profile;
+  uint8_t offset;
+  uint8_t blockCount;
+  uint8_t protMode;
+  uint8_t pad21[3];
+  uint32_t accessPassword;
+  uint8_t pad28[4];
+  alignas(8) uint8_t reserved32[32];
+};
+static_assert(offsetof(CRYPTO_PARAMS, keyID) == 0, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, IChallenge) == 4, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, IChallenge[2]) == 12, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, customData) == 16, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, profile) == 17, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, offset) == 18, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, blockCount) == 19, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, protMode) == 20, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, accessPassword) == 24, "CRYPTO_PARAMS layout");
+static_assert(offsetof(CRYPTO_PARAMS, reserved32) == 32, "CRYPTO_PARAMS layout");
+static_assert(sizeof(CRYPTO_PARAMS) == 64, "CRYPTO_PARAMS size");
+
+// One operation of an access sequence; params points at the parameter
+// record that opCode calls for, or is NULL.
+struct ACCESS_OPERATION {
+  uint32_t opCode;  // ACCESS_OPERATION_CODE
+  uint8_t pad4[4];
+  void* params;
+  alignas(8) uint8_t reserved16[32];
+};
+static_assert(offsetof(ACCESS_OPERATION, opCode) == 0, "ACCESS_OPERATION layout");
+static_assert(offsetof(ACCESS_OPERATION, params) == 8, "ACCESS_OPERATION layout");
+static_assert(offsetof(ACCESS_OPERATION, reserved16) == 16, "ACCESS_OPERATION layout");
+static_assert(sizeof(ACCESS_OPERATION) == 48, "ACCESS_OPERATION size");
+
+// ===========================================================================
 // Functions
 // ===========================================================================
 
@@ -908,5 +1242,99 @@ RFID_STATUS RFID_GetSingulationControl(READER_HANDLE readerHandle, uint16_t ante
                                        SINGULATION_CONTROL* control);
 RFID_STATUS RFID_SetSingulationControl(READER_HANDLE readerHandle, uint16_t antennaID,
                                        SINGULATION_CONTROL* control);
+
+// --- Tag access ----------------------------------------------------------------
+// tagID is the tag's identifier as bytes; reserved is always NULL. A NULL
+// record, filter, antenna info or tag record stands for an absent one.
+
+RFID_STATUS RFID_Read(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                      READ_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                      ANTENNA_INFO* antennaInfo, TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_Write(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                       WRITE_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                       ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_BlockWrite(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                            WRITE_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                            ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_BlockErase(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                            BLOCK_ERASE_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                            ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_Lock(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                      LOCK_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                      ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_Kill(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                      KILL_ACCESS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                      ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_BlockPermalock(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                uint32_t tagIDLength, BLOCK_PERMALOCK_ACCESS_PARAMS* params,
+                                ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                                TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_Recommission(READER_HANDLE readerHandle, const uint8_t* tagID,
+                              uint32_t tagIDLength, RECOMMISSION_ACCESS_PARAMS* params,
+                              ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                              void* reserved);
+RFID_STATUS RFID_WriteAccessPassword(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                     uint32_t tagIDLength, WRITE_FIELD_ACCESS_PARAMS* params,
+                                     ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_WriteKillPassword(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                   uint32_t tagIDLength, WRITE_FIELD_ACCESS_PARAMS* params,
+                                   ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_WriteTagID(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                            WRITE_FIELD_ACCESS_PARAMS* params, ANTENNA_INFO* antennaInfo,
+                            void* reserved);
+
+// Chip-specific operations; tagID may be NULL (the length is passed as given).
+RFID_STATUS RFID_NXPReadProtect(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                uint32_t tagIDLength, NXP_READ_PROTECT_PARAMS* params,
+                                ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                                void* reserved);
+RFID_STATUS RFID_NXPResetReadProtect(READER_HANDLE readerHandle,
+                                     NXP_RESET_READ_PROTECT_PARAMS* params,
+                                     ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_NXPSetEAS(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                           NXP_SET_EAS_PARAMS* params, ACCESS_FILTER* accessFilter,
+                           ANTENNA_INFO* antennaInfo, void* reserved);
+RFID_STATUS RFID_NXPChangeConfig(READER_HANDLE readerHandle, const uint8_t* tagID,
+                                 uint32_t tagIDLength, NXP_CHANGE_CONFIG_PARAMS* params,
+                                 ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                                 TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_ImpinjQTWrite(READER_HANDLE readerHandle, const uint8_t* tagID,
+                               uint32_t tagIDLength, IMPINJ_QT_WRITE_PARAMS* params,
+                               ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                               void* reserved);
+RFID_STATUS RFID_ImpinjQTRead(READER_HANDLE readerHandle, const uint8_t* tagID,
+                              uint32_t tagIDLength, IMPINJ_QT_READ_PARAMS* params,
+                              ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                              TAG_DATA* tagData, void* reserved);
+
+// Gen2v2 security operations.
+RFID_STATUS RFID_Authenticate(READER_HANDLE readerHandle, const uint8_t* tagID,
+                              uint32_t tagIDLength, AUTHENTICATE_PARAMS* params,
+                              ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                              TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_Untraceable(READER_HANDLE readerHandle, const uint8_t* tagID,
+                             uint32_t tagIDLength, UNTRACEABLE_PARAMS* params,
+                             ACCESS_FILTER* accessFilter, ANTENNA_INFO* antennaInfo,
+                             TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_ReadBuffer(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                            READ_BUFFER_PARAMS* params, ACCESS_FILTER* accessFilter,
+                            ANTENNA_INFO* antennaInfo, TAG_DATA* tagData, void* reserved);
+RFID_STATUS RFID_Crypto(READER_HANDLE readerHandle, const uint8_t* tagID, uint32_t tagIDLength,
+                        CRYPTO_PARAMS* params, ACCESS_FILTER* accessFilter,
+                        ANTENNA_INFO* antennaInfo, TAG_DATA* tagData, void* reserved);
+
+// Access sequences, kept by the library per reader.
+RFID_STATUS RFID_InitializeAccessSequence(READER_HANDLE readerHandle);
+RFID_STATUS RFID_AddOperationToAccessSequence(READER_HANDLE readerHandle,
+                                              ACCESS_OPERATION* operation, uint32_t* index);
+RFID_STATUS RFID_DeleteOperationFromAccessSequence(READER_HANDLE readerHandle, uint32_t index);
+RFID_STATUS RFID_PerformAccessSequence(READER_HANDLE readerHandle, ACCESS_FILTER* accessFilter,
+                                       ANTENNA_INFO* antennaInfo, TRIGGER_INFO* triggerInfo,
+                                       void* reserved);
+RFID_STATUS RFID_StopAccessSequence(READER_HANDLE readerHandle);
+// The two result counts of the last run, in the library's order.
+RFID_STATUS RFID_GetLastAccessResult(READER_HANDLE readerHandle, uint32_t* firstCount,
+                                     uint32_t* secondCount);
+RFID_STATUS RFID_DeinitializeAccessSequence(READER_HANDLE readerHandle);
 
 }  // extern "C"
