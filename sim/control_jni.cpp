@@ -91,6 +91,13 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_reset(JNIEnv*, jc
   sim::resetSimulator();
 }
 
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_keepJournal(JNIEnv*, jclass, jboolean on) {
+  sim::keepJournal(on != JNI_FALSE);
+}
+
+// Does nothing: the cost of a bare JNI call, the floor of every benchmark.
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_nop(JNIEnv*, jclass) {}
+
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_sim_SimControl_count(JNIEnv* env, jclass, jstring fn) {
   return static_cast<jint>(sim::callCount(text(env, fn)));
 }

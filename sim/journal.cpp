@@ -26,6 +26,7 @@ struct Journal {
   uint64_t nextSeq = 1;
   Scripts scripts;
   std::vector<std::vector<uint8_t>> kept;  // buffers move, their bytes do not
+  bool keeping = true;                      // off: calls still run, none is kept
 };
 
 // Never destroyed: threads of a running inventory may still record while
@@ -69,6 +70,7 @@ int64_t positionOf(const std::vector<Call>& calls, const std::string& fn, int64_
 void appendCall(const Call& call) {
   Journal& j = journal();
   std::lock_guard<std::mutex> lock(j.mutex);
+  if (!j.keeping) return;
   j.calls.push_back(call);
   j.calls.back().seq = j.nextSeq++;
 }
@@ -211,6 +213,7 @@ void resetJournalAndScripts() {
   j.nextSeq = 1;
   j.scripts = Scripts();
   j.kept.clear();
+  j.keeping = true;
 }
 
 size_t callCount(const std::string& fn) {
@@ -236,6 +239,12 @@ bool findCall(const std::string& fn, int64_t index, Call* call) {
   if (at < 0) return false;
   *call = j.calls[static_cast<size_t>(at)];
   return true;
+}
+
+void keepJournal(bool on) {
+  Journal& j = journal();
+  std::lock_guard<std::mutex> lock(j.mutex);
+  j.keeping = on;
 }
 
 }  // namespace sim

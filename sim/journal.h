@@ -95,6 +95,11 @@ void setScriptedPointer(const std::string& fn, uint64_t value);
 std::vector<Call> journalSnapshot();
 void resetJournalAndScripts();
 
+// Long runs (benchmarks) switch the journal off: calls still capture what
+// their behaviour needs and honour scripts, but no entry is kept. Reset
+// switches it back on.
+void keepJournal(bool on);
+
 // Queries without copying the whole journal. index counts the calls of fn
 // from 0; a negative index counts back from the last (-1 is the last call).
 size_t callCount(const std::string& fn);

@@ -33,6 +33,12 @@ public final class SimControl {
   /** Clears the journal, the scripts, the allocations and every session, then all reader state. */
   public static native void reset();
 
+  /** Keeps (true, the default) or stops keeping journal entries; for long benchmark runs. */
+  public static native void keepJournal(boolean on);
+
+  /** An empty native method: the cost of a bare JNI call. */
+  public static native void nop();
+
   /** Number of recorded calls of fn; 0 for a function never called (or unknown). */
   public static native int count(String fn);
 
