@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "events.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "reader_events.h"
 #include "status.h"

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "capture_read.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "reader_operation.h"
 #include "status.h"

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "capture_read.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "status.h"
 

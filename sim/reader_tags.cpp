@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "session.h"
 #include "status.h"
