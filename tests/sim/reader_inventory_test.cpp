@@ -232,6 +232,25 @@ TEST_F(InventoryTest, OneOperationAtATimeAndScriptedFailureStartsNothing) {
   EXPECT_EQ(RFID_PerformInventory(reader + 1000, nullptr, nullptr, nullptr, nullptr), sim::kInvalidHandle);
 }
 
+TEST_F(InventoryTest, UnreadableRecordsAreRefusedNotFollowed) {
+  void* wild = reinterpret_cast<void*>(0x10);
+  EXPECT_EQ(RFID_PerformInventory(reader, nullptr, wild, nullptr, nullptr), sim::kInvalidParam);
+  EXPECT_EQ(RFID_StopInventory(reader), sim::kNoOperationRunning) << "nothing started";
+  Record pattern = epcPattern({0x30}).ptr(24, wild).put<uint16_t>(32, 8);
+  Record filter = Record(40).ptr(8, pattern.data());
+  EXPECT_EQ(RFID_PerformInventory(reader, filter.data(), nullptr, nullptr, nullptr), sim::kInvalidParam);
+  Record pre = Record(36).ptr(8, wild).put<uint16_t>(16, 8);
+  uint32_t index = 0;
+  EXPECT_EQ(RFID_AddPreFilter(reader, 1, pre.data(), &index), sim::kInvalidParam);
+  EXPECT_EQ(RFID_AddPreFilter(reader, 1, Record(36).data(), static_cast<uint32_t*>(wild)), sim::kInvalidParam);
+  EXPECT_EQ(RFID_GetTagStorageSettings(reader, wild), sim::kInvalidParam);
+  EXPECT_EQ(RFID_SetSingulationControl(reader, 1, wild), sim::kInvalidParam);
+  EXPECT_EQ(RFID_PerformTagLocationing(reader, static_cast<uint8_t*>(wild), 12, nullptr, nullptr, nullptr),
+            sim::kInvalidParam);
+  EXPECT_EQ(rfidUtils_WaitForMultipleObjects(2, static_cast<int64_t*>(wild), 0, 0), -1);
+  EXPECT_EQ(rfid_DeallocateTags(reader, static_cast<void**>(wild), 1), sim::kInvalidParam);
+}
+
 TEST_F(InventoryTest, ClosingTheSessionStopsItsInventory) {
   ASSERT_EQ(RFID_PerformInventory(reader, nullptr, nullptr, nullptr, nullptr), sim::kSuccess);
   std::weak_ptr<sim::Reader> state = sim::findReader(reader);
