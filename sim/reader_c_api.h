@@ -46,8 +46,8 @@ int64_t rfidUtils_CreateEvent(void* attributes, int32_t manualReset, int32_t ini
 int32_t rfidUtils_SetEvent(int64_t event);
 int32_t rfidUtils_ResetEvent(int64_t event);
 int32_t rfidUtils_CloseHandle(int64_t event);
-int32_t rfidUtils_WaitForSingleObject(int64_t event, int32_t timeoutMs);
-int32_t rfidUtils_WaitForMultipleObjects(uint32_t count, const int64_t* handles, uint8_t waitAll,
-                                         int32_t timeoutMs);
+int32_t rfidUtils_WaitForSingleObject(int64_t event, int64_t timeoutMs);
+int32_t rfidUtils_WaitForMultipleObjects(int64_t count, const int64_t* handles, uint8_t waitAll,
+                                         int64_t timeoutMs);
 
 }  // extern "C"

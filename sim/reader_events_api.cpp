@@ -13,6 +13,17 @@
 namespace sim {
 namespace {
 
+// More handles than one wait takes is a caller's mistake, not a read past
+// its array.
+constexpr int64_t kMaxWaitObjects = 64;
+
+// A negative time-out waits forever; a larger one than a 32-bit count of
+// milliseconds is cut to the longest finite wait.
+int32_t waitTimeout(int64_t timeoutMs) {
+  if (timeoutMs < 0) return -1;
+  return static_cast<int32_t>(std::min<int64_t>(timeoutMs, INT32_MAX));
+}
+
 // Set, reset and close answer 1 on success and 0 for an unknown handle.
 int32_t handleResult(bool known) { return known ? 1 : 0; }
 
@@ -64,17 +75,24 @@ int32_t rfidUtils_CloseHandle(int64_t event) {
   return status != kSuccess ? status : handleResult(closeEvent(event));
 }
 
-int32_t rfidUtils_WaitForSingleObject(int64_t event, int32_t timeoutMs) {
+// Count and time-out arrive as 64-bit values (callers sign-extend their
+// ints); a negative time-out waits forever, a count of 0 or less waits on
+// nothing.
+int32_t rfidUtils_WaitForSingleObject(int64_t event, int64_t timeoutMs) {
   Recorder rec("rfidUtils_WaitForSingleObject", {raw(event), raw(timeoutMs)});
   const int32_t status = rec.finish();
-  return status != kSuccess ? status : waitForEvents({event}, false, timeoutMs);
+  return status != kSuccess ? status : waitForEvents({event}, false, waitTimeout(timeoutMs));
 }
 
-int32_t rfidUtils_WaitForMultipleObjects(uint32_t count, const int64_t* handles, uint8_t waitAll,
-                                         int32_t timeoutMs) {
+int32_t rfidUtils_WaitForMultipleObjects(int64_t count, const int64_t* handles, uint8_t waitAll,
+                                         int64_t timeoutMs) {
   Recorder rec("rfidUtils_WaitForMultipleObjects",
                {raw(count), raw(handles), raw(waitAll), raw(timeoutMs)});
-  rec.blob("handles", handles, static_cast<size_t>(count) * sizeof(int64_t));
+  if (count > kMaxWaitObjects) {
+    rec.finish();
+    return kWaitFailed;
+  }
+  rec.blob("handles", handles, static_cast<size_t>(std::max<int64_t>(count, 0)) * sizeof(int64_t));
   const Blob& captured = rec.captured("handles");
   const int32_t status = rec.finish();
   if (status != kSuccess) return status;
@@ -83,7 +101,7 @@ int32_t rfidUtils_WaitForMultipleObjects(uint32_t count, const int64_t* handles,
   for (size_t at = 0; at < captured.bytes.size(); at += sizeof(int64_t)) {
     events.push_back(fieldAt<int64_t>(captured, at));
   }
-  return waitForEvents(events, waitAll != 0, timeoutMs);
+  return waitForEvents(events, waitAll != 0, waitTimeout(timeoutMs));
 }
 
 int32_t RFID_RegisterEventNotification(int64_t handle, uint32_t type, int64_t event) {
