@@ -24,6 +24,9 @@ namespace sim {
 struct Blob {
   bool present = false;
   std::vector<uint8_t> bytes;
+  // The pointer was not NULL but its memory could not be read (or the size
+  // was beyond reason); bytes is then empty.
+  bool faulted = false;
 };
 
 struct Call {
@@ -50,6 +53,13 @@ class Recorder {
   void wide(const std::string& name, const wchar_t* s, size_t maxChars = 4096);
 
   int32_t finish();
+  // Like finish(); also tells whether a status was scripted for the function
+  // (a scripted 0 included), so callers can let a script override checks.
+  bool finish(int32_t* status);
+
+  // A blob captured so far by this recorder; an absent blob when there is
+  // none of that name. Deep captures read the pointers they follow from here.
+  const Blob& captured(const std::string& name) const;
 
  private:
   Call call_;
@@ -59,10 +69,14 @@ class Recorder {
 // Status scripted for fn, 0 when none. A one-shot status queued for fn is
 // consumed first.
 int32_t scriptedStatus(const std::string& fn);
+// The same, telling whether there was a script at all.
+bool scriptedStatus(const std::string& fn, int32_t* status);
 
 // Bytes scripted as fn's output record; copies min(n, scripted size) bytes
 // into dst and returns true when there is a script for fn.
 bool scriptedOutput(const std::string& fn, void* dst, size_t n);
+// The whole scripted output of fn, for outputs whose size the script decides.
+bool scriptedOutput(const std::string& fn, std::vector<uint8_t>* bytes);
 
 // A pointer-sized result scripted for fn (an address from SimControl.alloc,
 // or 0); returns true when there is a script for fn.
@@ -71,8 +85,20 @@ bool scriptedPointer(const std::string& fn, uint64_t* value);
 // Memory handed out to tests with SimControl.alloc stays alive until reset.
 void* keepAlive(std::vector<uint8_t> bytes);
 
+// Scripts, set by the control natives; all hold until reset.
+void setScriptedStatus(const std::string& fn, int32_t status);
+void queueScriptedStatus(const std::string& fn, int32_t status);  // one-shot
+void setScriptedOutput(const std::string& fn, std::vector<uint8_t> bytes);
+void setScriptedPointer(const std::string& fn, uint64_t value);
+
 // The whole journal, for the control natives.
 std::vector<Call> journalSnapshot();
 void resetJournalAndScripts();
+
+// Queries without copying the whole journal. index counts the calls of fn
+// from 0; a negative index counts back from the last (-1 is the last call).
+size_t callCount(const std::string& fn);
+std::vector<std::string> callNames();  // every call, in call order
+bool findCall(const std::string& fn, int64_t index, Call* call);
 
 }  // namespace sim

@@ -1,0 +1,112 @@
+// Reading memory that a caller handed us without trusting it: a wild pointer
+// in a record must end up as a recorded fault, not as a crash of the process
+// that loaded the simulator.
+#pragma once
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace sim {
+namespace detail {
+
+// The kernel reports EFAULT instead of raising a signal when it is asked to
+// write unreadable memory into a pipe, so a pipe to ourselves is a probe
+// that never crashes. One per thread, closed when the thread ends.
+class ProbePipe {
+ public:
+  ProbePipe() {
+    if (pipe2(fds_, O_CLOEXEC) != 0) fds_[0] = fds_[1] = -1;
+  }
+  ~ProbePipe() {
+    if (fds_[0] >= 0) close(fds_[0]);
+    if (fds_[1] >= 0) close(fds_[1]);
+  }
+  ProbePipe(const ProbePipe&) = delete;
+  ProbePipe& operator=(const ProbePipe&) = delete;
+
+  // Copies one chunk (at most kChunk bytes, so the pipe never blocks).
+  bool copyChunk(uint8_t* dst, const uint8_t* src, size_t n) {
+    if (fds_[0] < 0) return false;
+    ssize_t put = retry([&] { return write(fds_[1], src, n); });
+    if (put > 0) drain(dst, static_cast<size_t>(put));
+    return put == static_cast<ssize_t>(n);
+  }
+
+  static constexpr size_t kChunk = 4096;
+
+ private:
+  template <class F>
+  static ssize_t retry(F f) {
+    ssize_t r;
+    do r = f(); while (r < 0 && errno == EINTR);
+    return r;
+  }
+
+  void drain(uint8_t* dst, size_t n) {
+    while (n > 0) {
+      ssize_t got = retry([&] { return read(fds_[0], dst, n); });
+      if (got <= 0) return;
+      dst += got;
+      n -= static_cast<size_t>(got);
+    }
+  }
+
+  int fds_[2];
+};
+
+inline ProbePipe& probe() {
+  thread_local ProbePipe pipe;
+  return pipe;
+}
+
+constexpr size_t kPage = 4096;
+
+inline size_t bytesToPageEnd(const void* p) {
+  return kPage - reinterpret_cast<uintptr_t>(p) % kPage;
+}
+
+}  // namespace detail
+
+// Copies n bytes from src to dst; false (dst partly written) when any of the
+// n bytes at src is not readable.
+inline bool safeCopy(void* dst, const void* src, size_t n) {
+  auto* out = static_cast<uint8_t*>(dst);
+  auto* in = static_cast<const uint8_t*>(src);
+  while (n > 0) {
+    size_t chunk = n < detail::ProbePipe::kChunk ? n : detail::ProbePipe::kChunk;
+    if (!detail::probe().copyChunk(out, in, chunk)) return false;
+    out += chunk;
+    in += chunk;
+    n -= chunk;
+  }
+  return true;
+}
+
+// Copies the wide string at s, at most maxChars characters and without its
+// terminator, as raw bytes; false when its memory is not readable.
+inline bool safeWide(const wchar_t* s, size_t maxChars, std::vector<uint8_t>* bytes) {
+  bytes->clear();
+  size_t done = 0;
+  while (done < maxChars) {
+    // Read no further than the page the string has reached: its end may be
+    // the last character before an unmapped page.
+    size_t chars = std::max<size_t>(detail::bytesToPageEnd(s + done) / sizeof(wchar_t), 1);
+    chars = std::min(chars, maxChars - done);
+    std::vector<wchar_t> chunk(chars);
+    if (!safeCopy(chunk.data(), s + done, chars * sizeof(wchar_t))) return false;
+    size_t len = std::find(chunk.begin(), chunk.end(), L'\0') - chunk.begin();
+    auto* raw = reinterpret_cast<const uint8_t*>(chunk.data());
+    bytes->insert(bytes->end(), raw, raw + len * sizeof(wchar_t));
+    if (len < chars) break;
+    done += chars;
+  }
+  return true;
+}
+
+}  // namespace sim
