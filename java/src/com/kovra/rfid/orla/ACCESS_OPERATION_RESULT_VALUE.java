@@ -1,0 +1,9 @@
+package com.kovra.rfid.orla;
+
+/** Result of the access operation reported with a tag; the member set depends on the operation code. */
+public class ACCESS_OPERATION_RESULT_VALUE {
+    public IMPINJ_QT_DATA qtData = new IMPINJ_QT_DATA();
+    public NXP_CHANGE_CONFIG_WORD_RESULT nxpChangeConfigWordResult = new NXP_CHANGE_CONFIG_WORD_RESULT();
+    /** Reply of authenticate, read buffer and crypto operations, as hexadecimal text. */
+    public String authenticateReadBufferResult;
+}

@@ -1,0 +1,14 @@
+package com.kovra.rfid.orla;
+
+/** Fixed frequencies of the reader; freqList must hold at least numFreq entries. */
+public class FIXED_FREQ_INFO {
+    public short numFreq;
+    public int[] freqList = new int[0];
+
+    public FIXED_FREQ_INFO() {
+    }
+
+    public FIXED_FREQ_INFO(int maxFreq) {
+        freqList = new int[maxFreq];
+    }
+}

@@ -1,0 +1,15 @@
+package com.kovra.rfid.orla;
+
+/** One frequency-hop table; freqList must hold at least numFreq entries. */
+public class FREQ_HOP_TABLE {
+    public short hopTableID;
+    public short numFreq;
+    public int[] freqList = new int[0];
+
+    public FREQ_HOP_TABLE() {
+    }
+
+    public FREQ_HOP_TABLE(int maxFreq) {
+        freqList = new int[maxFreq];
+    }
+}

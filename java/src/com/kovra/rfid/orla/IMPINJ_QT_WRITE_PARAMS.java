@@ -1,0 +1,9 @@
+package com.kovra.rfid.orla;
+
+/** Parameters of an Impinj QT write. */
+public class IMPINJ_QT_WRITE_PARAMS {
+    /** Only the low 32 bits are sent. */
+    public long accessPassword;
+    public boolean qtPersist;
+    public IMPINJ_QT_DATA qtData = new IMPINJ_QT_DATA();
+}

@@ -1,0 +1,8 @@
+package com.kovra.rfid.orla;
+
+/** Parameters of an NXP change config. */
+public class NXP_CHANGE_CONFIG_PARAMS {
+    /** Only the low 32 bits are sent. */
+    public long accessPassword;
+    public short ChangeConfigWord;
+}

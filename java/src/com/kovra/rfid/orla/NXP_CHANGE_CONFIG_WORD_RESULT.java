@@ -1,0 +1,6 @@
+package com.kovra.rfid.orla;
+
+/** Configuration word an NXP change-config operation left on the tag. */
+public class NXP_CHANGE_CONFIG_WORD_RESULT {
+    public short ChangeConfigWord;
+}

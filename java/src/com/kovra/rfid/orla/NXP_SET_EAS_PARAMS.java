@@ -1,0 +1,8 @@
+package com.kovra.rfid.orla;
+
+/** Parameters of an NXP set EAS. */
+public class NXP_SET_EAS_PARAMS {
+    /** Only the low 32 bits are sent. */
+    public long accessPassword;
+    public boolean EASState;
+}

@@ -1,0 +1,16 @@
+package com.kovra.rfid.orla;
+
+/** One RF mode of the reader. */
+public class RF_MODE_TABLE_ENTRY {
+    public int modeIdentifer;
+    public int enumDivideRatio;
+    public int bdrValue;
+    public int enumModulation;
+    public int enumForwardLinkModulationType;
+    public int pieValue;
+    public int minTariValue;
+    public int maxTariValue;
+    public int stepTariValue;
+    public int enumSpectralMaskIndicator;
+    public boolean epcHAGTCConformance;
+}

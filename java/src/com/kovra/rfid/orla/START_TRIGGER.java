@@ -1,0 +1,7 @@
+package com.kovra.rfid.orla;
+
+/** Start trigger of an operation. */
+public class START_TRIGGER {
+    public START_TRIGGER_TYPE type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_IMMEDIATE;
+    public START_TRIGGER_VALUE value = new START_TRIGGER_VALUE();
+}

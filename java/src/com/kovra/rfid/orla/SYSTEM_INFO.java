@@ -1,0 +1,18 @@
+package com.kovra.rfid.orla;
+
+/** System information of the reader (class name chosen by this SDK). */
+public class SYSTEM_INFO {
+    public STRUCT_INFO structInfo = new STRUCT_INFO();
+    public String radioFirmwareVersion;
+    public String fPGAVersion;
+    public String upTime;
+    public String readerName;
+    public String readerLocation;
+    public int ramAvailable;
+    public int flashAvailable;
+    public int ramUsed;
+    public int ramTotal;
+    public int cpuUsageForUserProcesses;
+    public int cpuUsageForSystemProcesses;
+    public short powersourcetypeEnum;
+}

@@ -1,0 +1,11 @@
+package com.kovra.rfid.orla;
+
+/**
+ * USB operation mode of the reader (class name chosen by this SDK). Setting reads mode; getting writes
+ * enumMode instead.
+ */
+public class USB_OPERATION_MODE_SETTINGS {
+    public USB_OPERATION_MODE mode = USB_OPERATION_MODE.USB_OPERATION_MODE_NETWORK;
+    public short enumMode;
+    public boolean allowLLRPConnectionOverride;
+}
