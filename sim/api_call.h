@@ -2,8 +2,7 @@
 // values and deep captures, writes the outputs and settles the status.
 //
 //   ApiCall call("RFID_GetAntennaMode", handle, mode);
-//   call.require(mode);
-//   call.outputs({{mode, sizeof *mode}});
+//   call.outputs({{mode, sizeof *mode, "mode"}});
 //   return call.finish();
 //
 // Status: a status scripted for the function wins; otherwise an unknown
@@ -47,9 +46,12 @@ struct NoHandle {};
 constexpr NoHandle kNoHandle{};
 
 // One out-parameter: where the caller wants it and how many bytes it takes.
+// A named one is required (NULL makes kInvalidParam) and what the caller
+// left in it is captured under its name first (tests check presets so).
 struct Out {
   void* p;
   size_t n;
+  const char* name = nullptr;
 };
 
 class ApiCall {
@@ -81,8 +83,12 @@ class ApiCall {
 
   // Writes the scripted output of the function across outs, in order and at
   // their sizes; without a script, defaults instead. Bytes that neither
-  // covers are zeroed.
-  void outputs(std::initializer_list<Out> outs, const std::vector<uint8_t>& defaults = {}) const;
+  // covers are zeroed. Named outs are captured and required first, so call
+  // this before finish().
+  void outputs(std::initializer_list<Out> outs, const std::vector<uint8_t>& defaults = {});
+  // The same, but only when the test scripted an output: without a script
+  // the outs are left as they are.
+  void outputsIfScripted(std::initializer_list<Out> outs);
 
   // Appends the journal entry and settles the status (see above).
   int32_t finish();
@@ -94,6 +100,8 @@ class ApiCall {
   bool checksHandle_ = false;
   bool missing_ = false;
   std::vector<std::string> names_;
+
+  void captureOuts(std::initializer_list<Out> outs);
 };
 
 inline std::map<std::string, Blob> ApiCall::capturedBlobs() const {
@@ -102,9 +110,8 @@ inline std::map<std::string, Blob> ApiCall::capturedBlobs() const {
   return blobs;
 }
 
-inline void ApiCall::outputs(std::initializer_list<Out> outs, const std::vector<uint8_t>& defaults) const {
-  std::vector<uint8_t> bytes;
-  if (!scriptedOutput(fn_, &bytes)) bytes = defaults;
+// Lays bytes across outs in their order; what the bytes do not cover is zeroed.
+inline void writeOuts(std::initializer_list<Out> outs, const std::vector<uint8_t>& bytes) {
   size_t at = 0;
   for (const Out& out : outs) {
     if (out.p != nullptr) {
@@ -115,6 +122,26 @@ inline void ApiCall::outputs(std::initializer_list<Out> outs, const std::vector<
     }
     at += out.n;
   }
+}
+
+inline void ApiCall::captureOuts(std::initializer_list<Out> outs) {
+  for (const Out& out : outs) {
+    if (out.name == nullptr) continue;
+    blob(out.name, out.p, out.n);
+    require(out.p);
+  }
+}
+
+inline void ApiCall::outputs(std::initializer_list<Out> outs, const std::vector<uint8_t>& defaults) {
+  captureOuts(outs);
+  std::vector<uint8_t> bytes;
+  writeOuts(outs, scriptedOutput(fn_, &bytes) ? bytes : defaults);
+}
+
+inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
+  captureOuts(outs);
+  std::vector<uint8_t> bytes;
+  if (scriptedOutput(fn_, &bytes)) writeOuts(outs, bytes);
 }
 
 inline int32_t ApiCall::finish() {

@@ -23,6 +23,14 @@ class SessionStore {
     values_[handle] = std::move(value);
   }
 
+  // Runs f on the value kept for handle (a new one when there is none),
+  // under the store's lock; for read-modify-write on an open session.
+  template <class F>
+  void update(int64_t handle, F f) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    f(values_[handle]);
+  }
+
   // A copy of the value kept for handle; false when there is none.
   bool get(int64_t handle, T* value) const {
     std::lock_guard<std::mutex> lock(mutex_);

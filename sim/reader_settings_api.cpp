@@ -1,0 +1,115 @@
+// Reader settings that shape reading: pre-filters, tag storage settings and
+// singulation control.
+#include <algorithm>
+#include <cstdint>
+
+#include "capture_read.h"
+#include "reader_call.h"
+#include "status.h"
+
+namespace sim {
+namespace {
+
+bool validAntenna(uint16_t antenna) { return antenna >= 1 && antenna <= kAntennaCount; }
+
+int32_t addPreFilter(const CallOutcome& call, uint16_t antenna, const void* preFilter,
+                     uint32_t* index) {
+  if (preFilter == nullptr || index == nullptr || (antenna != 0 && !validAntenna(antenna))) {
+    return call.refused();
+  }
+  if (!call.reader) return call.status;
+  Reader& reader = *call.reader;
+  std::lock_guard<std::mutex> lock(reader.mutex);
+  const uint32_t next = reader.nextPreFilterIndex;
+  writeOutput("RFID_AddPreFilter", index, &next, sizeof next);
+  if (!call.proceeds()) return call.status;
+  reader.preFilters.push_back({next, readPreFilter(antenna, preFilter)});
+  ++reader.nextPreFilterIndex;
+  return kSuccess;
+}
+
+int32_t deletePreFilter(Reader& reader, uint16_t antenna, uint32_t index) {
+  std::lock_guard<std::mutex> lock(reader.mutex);
+  auto& filters = reader.preFilters;
+  auto it = std::find_if(filters.begin(), filters.end(), [&](const PreFilterEntry& e) {
+    return e.index == index && e.rule.antenna == antenna;
+  });
+  if (it == filters.end()) return kNotFound;
+  filters.erase(it);
+  return kSuccess;
+}
+
+}  // namespace
+}  // namespace sim
+
+using namespace sim;
+
+extern "C" {
+
+int32_t RFID_AddPreFilter(int64_t handle, uint16_t antenna, void* preFilter, uint32_t* index) {
+  Recorder rec("RFID_AddPreFilter", {raw(handle), antenna, raw(preFilter), raw(index)});
+  capturePreFilter(rec, "preFilter", preFilter);
+  return addPreFilter(finishCall(rec, handle), antenna, preFilter, index);
+}
+
+int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
+  Recorder rec("RFID_DeletePreFilter", {raw(handle), antenna, index});
+  const CallOutcome call = finishCall(rec, handle);
+  if (!call.proceeds()) return call.status;
+  return deletePreFilter(*call.reader, antenna, index);
+}
+
+int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {
+  Recorder rec("RFID_GetTagStorageSettings", {raw(handle), raw(settings)});
+  const CallOutcome call = finishCall(rec, handle);
+  if (settings == nullptr) return call.refused();
+  if (!call.reader) return call.status;
+  TagStorageSettings kept;
+  {
+    std::lock_guard<std::mutex> lock(call.reader->mutex);
+    kept = call.reader->storage;
+  }
+  writeOutput("RFID_GetTagStorageSettings", settings, kept.raw.data(), kept.raw.size());
+  return call.status;
+}
+
+int32_t RFID_SetTagStorageSettings(int64_t handle, void* settings) {
+  Recorder rec("RFID_SetTagStorageSettings", {raw(handle), raw(settings)});
+  rec.blob("tagStorageSettings", settings, sizeof(TagStorageSettings::raw));
+  const CallOutcome call = finishCall(rec, handle);
+  if (!call.proceeds()) return call.status;
+  if (settings == nullptr) return kInvalidParam;
+  std::lock_guard<std::mutex> lock(call.reader->mutex);
+  std::copy_n(static_cast<const uint8_t*>(settings), call.reader->storage.raw.size(),
+              call.reader->storage.raw.begin());
+  return kSuccess;
+}
+
+int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
+  Recorder rec("RFID_GetSingulationControl", {raw(handle), antenna, raw(control)});
+  const CallOutcome call = finishCall(rec, handle);
+  if (control == nullptr || !validAntenna(antenna)) return call.refused();
+  if (!call.reader) return call.status;
+  SingulationControl kept;
+  {
+    std::lock_guard<std::mutex> lock(call.reader->mutex);
+    kept = call.reader->singulationOf(antenna);
+  }
+  writeOutput("RFID_GetSingulationControl", control, kept.raw.data(), kept.raw.size());
+  return call.status;
+}
+
+int32_t RFID_SetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
+  Recorder rec("RFID_SetSingulationControl", {raw(handle), antenna, raw(control)});
+  rec.blob("singulationControl", control, sizeof(SingulationControl::raw));
+  const CallOutcome call = finishCall(rec, handle);
+  if (!call.proceeds()) return call.status;
+  if (control == nullptr || !validAntenna(antenna)) return kInvalidParam;
+  SingulationControl kept;
+  std::copy_n(static_cast<const uint8_t*>(control), kept.raw.size(), kept.raw.begin());
+  std::lock_guard<std::mutex> lock(call.reader->mutex);
+  call.reader->singulation[antenna] = kept;
+  return kSuccess;
+}
+
+}  // extern "C"

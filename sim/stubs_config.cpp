@@ -1,0 +1,448 @@
+// Reader configuration and management: capabilities, antennas, radio, GPIO
+// and LED, reader information, clock, statistics, health, profiles,
+// updates and user applications. Setters record what they were sent;
+// getters capture what the caller left in their outputs (tests check
+// presets so) and then write the scripted output, or zeros.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "api_call.h"
+#include "record_bytes.h"
+
+namespace sim {
+namespace {
+
+// Sizes of the records as the library provides them.
+constexpr size_t kReaderCapsBytes = 3768;
+constexpr size_t kAntennaRfConfigBytes = 32;
+constexpr size_t kCableLossBytes = 12;
+constexpr size_t kUsbSettingsBytes = 8;
+constexpr size_t kDebounceBytes = 16;
+constexpr size_t kLedInfoBytes = 48;
+constexpr size_t kSystemInfoBytes = 5336;
+constexpr size_t kReaderInfoBytes = 4160;
+constexpr size_t kSystemTimeBytes = 16;
+constexpr size_t kNameListBytes = 24;  // count, pointer to names, active index
+constexpr size_t kReaderStatsBytes = 192;
+constexpr size_t kUpdateInfoBytes = 3120;
+constexpr size_t kUpdateStatusBytes = 1144;
+constexpr size_t kUserAppListBytes = 16;
+
+// The cable-loss list holds as many record pointers as the call says; a
+// count beyond this is not believed.
+constexpr uint16_t kMaxCableLossRecords = 64;
+
+void captureCableLoss(ApiCall& call, uint16_t count, const void* records) {
+  count = std::min(count, kMaxCableLossRecords);
+  call.blob("cableLoss", records, count * sizeof(void*));
+  const Blob& list = call.captured("cableLoss");
+  for (uint16_t i = 0; list.present && i < count; ++i) {
+    call.blob("cableLoss[" + std::to_string(i) + "]", pointerAt(list, i * sizeof(void*)), kCableLossBytes);
+  }
+}
+
+// The getter answers for the antenna it was asked about, with zero values.
+std::vector<uint8_t> cableLossAnswer(const ApiCall& call) {
+  std::vector<uint8_t> answer(kCableLossBytes, 0);
+  putField(&answer, 0, fieldAt<uint16_t>(call.captured("cableLoss"), 0));
+  return answer;
+}
+
+}  // namespace
+}  // namespace sim
+
+using sim::ApiCall;
+
+extern "C" {
+
+// Capabilities.
+
+int32_t RFID_GetReaderCapsW(int64_t handle, void* caps) {
+  ApiCall call("RFID_GetReaderCapsW", handle, caps);
+  call.outputs({{caps, sim::kReaderCapsBytes, "caps"}});
+  return call.finish();
+}
+
+// Antennas.
+
+int32_t RFID_SetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t first, uint16_t second,
+                              uint16_t third) {
+  ApiCall call("RFID_SetAntennaConfig", handle, antennaID, first, second, third);
+  return call.finish();
+}
+
+int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* first, uint16_t* second,
+                              uint16_t* third) {
+  ApiCall call("RFID_GetAntennaConfig", handle, antennaID, first, second, third);
+  call.outputs({{first, 2, "first"}, {second, 2, "second"}, {third, 2, "third"}});
+  return call.finish();
+}
+
+int32_t RFID_GetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
+  ApiCall call("RFID_GetAntennaRfConfig", handle, antennaID, config);
+  call.outputs({{config, sim::kAntennaRfConfigBytes, "config"}});
+  return call.finish();
+}
+
+int32_t RFID_SetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
+  ApiCall call("RFID_SetAntennaRfConfig", handle, antennaID, config);
+  call.blob("config", config, sim::kAntennaRfConfigBytes);
+  return call.finish();
+}
+
+int32_t RFID_SetCableLossCompensation(int64_t handle, uint16_t count, void* records) {
+  ApiCall call("RFID_SetCableLossCompensation", handle, count, records);
+  sim::captureCableLoss(call, count, records);
+  return call.finish();
+}
+
+int32_t RFID_GetCableLossCompensation(int64_t handle, void* record) {
+  ApiCall call("RFID_GetCableLossCompensation", handle, record);
+  call.blob("cableLoss", record, sim::kCableLossBytes);
+  call.require(record);
+  call.outputs({{record, sim::kCableLossBytes}}, sim::cableLossAnswer(call));
+  return call.finish();
+}
+
+int32_t RFID_GetPhysicalAntennaProperties(int64_t handle, uint16_t antennaID, uint8_t* flag, int32_t* value) {
+  ApiCall call("RFID_GetPhysicalAntennaProperties", handle, antennaID, flag, value);
+  call.outputs({{flag, 1, "flag"}, {value, 4, "value"}});
+  return call.finish();
+}
+
+int32_t RFID_SetAntennaMode(int64_t handle, uint32_t mode) {
+  ApiCall call("RFID_SetAntennaMode", handle, mode);
+  return call.finish();
+}
+
+int32_t RFID_GetAntennaMode(int64_t handle, uint32_t* mode) {
+  ApiCall call("RFID_GetAntennaMode", handle, mode);
+  call.outputs({{mode, 4, "mode"}});
+  return call.finish();
+}
+
+int32_t RFID_GetReadPointStatus(int64_t handle, uint16_t antennaID, uint8_t* status) {
+  ApiCall call("RFID_GetReadPointStatus", handle, antennaID, status);
+  call.outputs({{status, 1, "status"}});
+  return call.finish();
+}
+
+int32_t RFID_EnableReadPoint(int64_t handle, uint16_t antennaID, uint8_t enable) {
+  ApiCall call("RFID_EnableReadPoint", handle, antennaID, enable);
+  return call.finish();
+}
+
+// Radio.
+
+int32_t RFID_SetRFMode(int64_t handle, uint16_t antennaID, uint32_t first, uint32_t second) {
+  ApiCall call("RFID_SetRFMode", handle, antennaID, first, second);
+  return call.finish();
+}
+
+int32_t RFID_GetRFMode(int64_t handle, uint16_t antennaID, uint32_t* first, uint32_t* second) {
+  ApiCall call("RFID_GetRFMode", handle, antennaID, first, second);
+  call.outputs({{first, 4, "first"}, {second, 4, "second"}});
+  return call.finish();
+}
+
+// The scratch areas of the duty-cycle pair are the library's; nothing is
+// read from or written to them.
+int32_t RFID_SetDutyCycle(int64_t handle, uint16_t dutyCycleIndex, void* scratch) {
+  ApiCall call("RFID_SetDutyCycle", handle, dutyCycleIndex, scratch);
+  return call.finish();
+}
+
+int32_t RFID_GetDutyCycle(int64_t handle, uint16_t* dutyCycleIndex, void* scratch) {
+  ApiCall call("RFID_GetDutyCycle", handle, dutyCycleIndex, scratch);
+  call.outputs({{dutyCycleIndex, 2, "dutyCycleIndex"}});
+  return call.finish();
+}
+
+int32_t RFID_SetRadioPowerState(int64_t handle, uint8_t on) {
+  ApiCall call("RFID_SetRadioPowerState", handle, on);
+  return call.finish();
+}
+
+int32_t RFID_GetRadioPowerState(int64_t handle, uint8_t* on) {
+  ApiCall call("RFID_GetRadioPowerState", handle, on);
+  call.outputs({{on, 1, "on"}});
+  return call.finish();
+}
+
+int32_t RFID_TurnOffRadioWhenIdle(int64_t handle, uint32_t timeout) {
+  ApiCall call("RFID_TurnOffRadioWhenIdle", handle, timeout);
+  return call.finish();
+}
+
+int32_t RFID_GetRadioIdleTimeout(int64_t handle, uint32_t* timeout) {
+  ApiCall call("RFID_GetRadioIdleTimeout", handle, timeout);
+  call.outputs({{timeout, 4, "timeout"}});
+  return call.finish();
+}
+
+int32_t RFID_GetPowerNegotiationStatus(int64_t handle, int32_t* status) {
+  ApiCall call("RFID_GetPowerNegotiationStatus", handle, status);
+  call.outputs({{status, 4, "status"}});
+  return call.finish();
+}
+
+int32_t RFID_SetPowerNegotiationState(int64_t handle, uint8_t state) {
+  ApiCall call("RFID_SetPowerNegotiationState", handle, state);
+  return call.finish();
+}
+
+int32_t RFID_GetPowerNegotiationState(int64_t handle, uint8_t* state) {
+  ApiCall call("RFID_GetPowerNegotiationState", handle, state);
+  call.outputs({{state, 1, "state"}});
+  return call.finish();
+}
+
+int32_t RFID_GetUSBOperationMode(int64_t handle, void* settings) {
+  ApiCall call("RFID_GetUSBOperationMode", handle, settings);
+  call.outputs({{settings, sim::kUsbSettingsBytes, "settings"}});
+  return call.finish();
+}
+
+int32_t RFID_SetUSBOperationMode(int64_t handle, void* settings) {
+  ApiCall call("RFID_SetUSBOperationMode", handle, settings);
+  call.blob("settings", settings, sim::kUsbSettingsBytes);
+  return call.finish();
+}
+
+// GPIO and LED.
+
+int32_t RFID_EnableGPIPort(int64_t handle, int32_t port, uint8_t enable) {
+  ApiCall call("RFID_EnableGPIPort", handle, port, enable);
+  return call.finish();
+}
+
+int32_t RFID_GetGPIState(int64_t handle, int32_t port, uint8_t* state, int32_t* value) {
+  ApiCall call("RFID_GetGPIState", handle, port, state, value);
+  call.outputs({{state, 1, "state"}, {value, 4, "value"}});
+  return call.finish();
+}
+
+int32_t RFID_SetGPOState(int64_t handle, int32_t port, uint8_t state) {
+  ApiCall call("RFID_SetGPOState", handle, port, state);
+  return call.finish();
+}
+
+int32_t RFID_GetGPOState(int64_t handle, int32_t port, uint8_t* state) {
+  ApiCall call("RFID_GetGPOState", handle, port, state);
+  call.outputs({{state, 1, "state"}});
+  return call.finish();
+}
+
+int32_t RFID_SetGPIDebounceTime(int64_t handle, int32_t value, void* debounce) {
+  ApiCall call("RFID_SetGPIDebounceTime", handle, value, debounce);
+  call.blob("debounce", debounce, sim::kDebounceBytes);
+  return call.finish();
+}
+
+int32_t RFID_GetGPIDebounceTime(int64_t handle, uint32_t* value, void* debounce) {
+  ApiCall call("RFID_GetGPIDebounceTime", handle, value, debounce);
+  call.blob("debounce", debounce, sim::kDebounceBytes);
+  call.outputs({{value, 4, "value"}});
+  return call.finish();
+}
+
+int32_t RFID_SetUserLED(int64_t handle, void* ledInfo) {
+  ApiCall call("RFID_SetUserLED", handle, ledInfo);
+  call.blob("ledInfo", ledInfo, sim::kLedInfoBytes);
+  return call.finish();
+}
+
+// Reader information, clock, statistics and health.
+
+int32_t RFID_GetSystemInfoW(int64_t handle, void* info) {
+  ApiCall call("RFID_GetSystemInfoW", handle, info);
+  call.outputs({{info, sim::kSystemInfoBytes, "info"}});
+  return call.finish();
+}
+
+int32_t RFID_GetReaderInfoW(int64_t handle, void* info) {
+  ApiCall call("RFID_GetReaderInfoW", handle, info);
+  call.outputs({{info, sim::kReaderInfoBytes, "info"}});
+  return call.finish();
+}
+
+int32_t RFID_SetReaderInfoW(int64_t handle, void* info) {
+  ApiCall call("RFID_SetReaderInfoW", handle, info);
+  call.blob("info", info, sim::kReaderInfoBytes);
+  return call.finish();
+}
+
+int32_t RFID_GetLocalTime(int64_t handle, void* time) {
+  ApiCall call("RFID_GetLocalTime", handle, time);
+  call.outputs({{time, sim::kSystemTimeBytes, "time"}});
+  return call.finish();
+}
+
+int32_t RFID_SetLocalTime(int64_t handle, void* time) {
+  ApiCall call("RFID_SetLocalTime", handle, time);
+  call.blob("time", time, sim::kSystemTimeBytes);
+  return call.finish();
+}
+
+int32_t RFID_GetTimeZoneListW(int64_t handle, void* list) {
+  ApiCall call("RFID_GetTimeZoneListW", handle, list);
+  call.outputs({{list, sim::kNameListBytes, "list"}});
+  return call.finish();
+}
+
+int32_t RFID_SetTimeZone(int64_t handle, uint16_t index) {
+  ApiCall call("RFID_SetTimeZone", handle, index);
+  return call.finish();
+}
+
+int32_t RFID_GetReaderStats(int64_t handle, uint16_t antennaID, void* stats) {
+  ApiCall call("RFID_GetReaderStats", handle, antennaID, stats);
+  call.outputs({{stats, sim::kReaderStatsBytes, "stats"}});
+  return call.finish();
+}
+
+int32_t RFID_ClearReaderStats(int64_t handle) {
+  ApiCall call("RFID_ClearReaderStats", handle);
+  return call.finish();
+}
+
+// What the fourth argument designates is the reader's business; it is only
+// recorded.
+int32_t RFID_GetHealthStatus(int64_t handle, uint32_t query, int32_t* status, void* detail) {
+  ApiCall call("RFID_GetHealthStatus", handle, query, status, detail);
+  call.outputs({{status, 4, "status"}});
+  return call.finish();
+}
+
+// Profiles.
+
+int32_t RFID_GetProfileListW(int64_t handle, void* list) {
+  ApiCall call("RFID_GetProfileListW", handle, list);
+  call.outputs({{list, sim::kNameListBytes, "list"}});
+  return call.finish();
+}
+
+int32_t RFID_ImportProfileFromReaderW(int64_t handle, const wchar_t* first, const wchar_t* second) {
+  ApiCall call("RFID_ImportProfileFromReaderW", handle, first, second);
+  call.blob("first", first, sim::kWideFieldBytes);
+  call.blob("second", second, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_ExportProfileToReaderW(int64_t handle, const wchar_t* first, const wchar_t* second, uint8_t flag) {
+  ApiCall call("RFID_ExportProfileToReaderW", handle, first, second, flag);
+  call.blob("first", first, sim::kWideFieldBytes);
+  call.blob("second", second, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_DeleteProfileW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_DeleteProfileW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_SetActiveProfileW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_SetActiveProfileW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+// Updates.
+
+int32_t RFID_UpdateSoftwareW(int64_t handle, void* updateInfo) {
+  ApiCall call("RFID_UpdateSoftwareW", handle, updateInfo);
+  call.blob("updateInfo", updateInfo, sim::kUpdateInfoBytes);
+  return call.finish();
+}
+
+int32_t RFID_GetUpdateStatusW(int64_t handle, void* status) {
+  ApiCall call("RFID_GetUpdateStatusW", handle, status);
+  call.outputs({{status, sim::kUpdateStatusBytes, "status"}});
+  return call.finish();
+}
+
+int32_t RFID_UpdateRadioConfigW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_UpdateRadioConfigW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_UpdateRadioFirmwareW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_UpdateRadioFirmwareW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+// User applications.
+
+int32_t RFID_InstallUserAppW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_InstallUserAppW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_UninstallUserAppW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_UninstallUserAppW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_StartUserAppW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_StartUserAppW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_StopUserAppW(int64_t handle, const wchar_t* name) {
+  ApiCall call("RFID_StopUserAppW", handle, name);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_SetUserAppAutoStartW(int64_t handle, const wchar_t* name, uint8_t autoStart) {
+  ApiCall call("RFID_SetUserAppAutoStartW", handle, name, autoStart);
+  call.blob("name", name, sim::kWideFieldBytes);
+  return call.finish();
+}
+
+int32_t RFID_ListUserAppsW(int64_t handle, void* list) {
+  ApiCall call("RFID_ListUserAppsW", handle, list);
+  call.outputs({{list, sim::kUserAppListBytes, "list"}});
+  return call.finish();
+}
+
+int32_t RFID_GetUserAppRunStatusW(int64_t handle, const wchar_t* name, uint8_t* running) {
+  ApiCall call("RFID_GetUserAppRunStatusW", handle, name, running);
+  call.blob("name", name, sim::kWideFieldBytes);
+  call.outputs({{running, 1, "running"}});
+  return call.finish();
+}
+
+// LLRP configuration persistence.
+
+int32_t RFID_SaveLlrpConfig(int64_t handle, void* argument) {
+  ApiCall call("RFID_SaveLlrpConfig", handle, argument);
+  return call.finish();
+}
+
+int32_t RFID_GetSaveLlrpConfigStatus(int64_t handle, uint8_t* status) {
+  ApiCall call("RFID_GetSaveLlrpConfigStatus", handle, status);
+  call.outputs({{status, 1, "status"}});
+  return call.finish();
+}
+
+int32_t RFID_ResetConfigToFactoryDefaults(int64_t handle) {
+  ApiCall call("RFID_ResetConfigToFactoryDefaults", handle);
+  return call.finish();
+}
+
+}  // extern "C"
+
+// Exported with C++ linkage: the library imports it under this mangled name.
+int32_t rfid_GetNumInstalledApps(void* handle, unsigned int* count) {
+  ApiCall call("rfid_GetNumInstalledApps", reinterpret_cast<int64_t>(handle), count);
+  call.outputs({{count, sizeof *count, "count"}});
+  return call.finish();
+}
