@@ -1141,6 +1141,554 @@ static_assert(offsetof(ACCESS_OPERATION, reserved16) == 16, "ACCESS_OPERATION la
 static_assert(sizeof(ACCESS_OPERATION) == 48, "ACCESS_OPERATION size");
 
 // ===========================================================================
+// Reader configuration and management
+// ===========================================================================
+
+// Identity of a reader: the kind of identifier and its text.
+struct READER_ID {
+  int32_t enumType;
+  wchar_t value[kMaxWideChars];
+};
+static_assert(offsetof(READER_ID, enumType) == 0, "READER_ID layout");
+static_assert(offsetof(READER_ID, value) == 4, "READER_ID layout");
+static_assert(sizeof(READER_ID) == 1044, "READER_ID size");
+
+// Receive sensitivities the reader offers (library-owned list).
+struct RECEIVE_SENSITIVITY_TABLE {
+  uint16_t numValues;
+  uint8_t pad2[6];
+  int32_t* receiveSensitivityValueList;
+};
+static_assert(offsetof(RECEIVE_SENSITIVITY_TABLE, numValues) == 0,
+              "RECEIVE_SENSITIVITY_TABLE layout");
+static_assert(offsetof(RECEIVE_SENSITIVITY_TABLE, receiveSensitivityValueList) == 8,
+              "RECEIVE_SENSITIVITY_TABLE layout");
+static_assert(sizeof(RECEIVE_SENSITIVITY_TABLE) == 16, "RECEIVE_SENSITIVITY_TABLE size");
+
+// One RF mode of a UHF mode table.
+struct RF_MODE_TABLE_ENTRY {
+  uint32_t modeIdentifer;
+  int32_t enumDivideRatio;
+  uint32_t bdrValue;
+  int32_t enumModulation;
+  int32_t enumForwardLinkModulationType;
+  uint32_t pieValue;
+  uint32_t minTariValue;
+  uint32_t maxTariValue;
+  uint32_t stepTariValue;
+  int32_t enumSpectralMaskIndicator;
+  RFID_BOOL epcHAGTCConformance;
+  uint8_t reserved41[39];
+};
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, modeIdentifer) == 0, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, enumDivideRatio) == 4, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, bdrValue) == 8, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, enumModulation) == 12, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, enumForwardLinkModulationType) == 16,
+              "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, pieValue) == 20, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, minTariValue) == 24, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, maxTariValue) == 28, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, stepTariValue) == 32, "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, enumSpectralMaskIndicator) == 36,
+              "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, epcHAGTCConformance) == 40,
+              "RF_MODE_TABLE_ENTRY layout");
+static_assert(offsetof(RF_MODE_TABLE_ENTRY, reserved41) == 41, "RF_MODE_TABLE_ENTRY layout");
+static_assert(sizeof(RF_MODE_TABLE_ENTRY) == 80, "RF_MODE_TABLE_ENTRY size");
+
+// The RF modes of one air protocol.
+struct UHF_RF_MODE_TABLE {
+  int16_t protocolID;
+  uint16_t numEntries;
+  uint8_t pad4[4];
+  RF_MODE_TABLE_ENTRY* tablesEntries;
+};
+static_assert(offsetof(UHF_RF_MODE_TABLE, protocolID) == 0, "UHF_RF_MODE_TABLE layout");
+static_assert(offsetof(UHF_RF_MODE_TABLE, numEntries) == 2, "UHF_RF_MODE_TABLE layout");
+static_assert(offsetof(UHF_RF_MODE_TABLE, tablesEntries) == 8, "UHF_RF_MODE_TABLE layout");
+static_assert(sizeof(UHF_RF_MODE_TABLE) == 16, "UHF_RF_MODE_TABLE size");
+
+// All RF mode tables of the reader.
+struct RF_MODES {
+  uint16_t numTables;
+  uint8_t pad2[6];
+  UHF_RF_MODE_TABLE* uhfTables;
+};
+static_assert(offsetof(RF_MODES, numTables) == 0, "RF_MODES layout");
+static_assert(offsetof(RF_MODES, uhfTables) == 8, "RF_MODES layout");
+static_assert(sizeof(RF_MODES) == 16, "RF_MODES size");
+
+// Transmit power levels the reader offers.
+struct TRANSMIT_POWER_LEVEL_TABLE {
+  uint16_t numValues;
+  uint8_t pad2[6];
+  int16_t* powerValueList;
+};
+static_assert(offsetof(TRANSMIT_POWER_LEVEL_TABLE, numValues) == 0,
+              "TRANSMIT_POWER_LEVEL_TABLE layout");
+static_assert(offsetof(TRANSMIT_POWER_LEVEL_TABLE, powerValueList) == 8,
+              "TRANSMIT_POWER_LEVEL_TABLE layout");
+static_assert(sizeof(TRANSMIT_POWER_LEVEL_TABLE) == 16, "TRANSMIT_POWER_LEVEL_TABLE size");
+
+// One frequency-hopping table: its identifier and frequencies.
+struct FREQ_HOP_TABLE {
+  int16_t hopTableID;
+  uint16_t numFreq;
+  uint8_t pad4[4];
+  uint32_t* freqList;
+};
+static_assert(offsetof(FREQ_HOP_TABLE, hopTableID) == 0, "FREQ_HOP_TABLE layout");
+static_assert(offsetof(FREQ_HOP_TABLE, numFreq) == 2, "FREQ_HOP_TABLE layout");
+static_assert(offsetof(FREQ_HOP_TABLE, freqList) == 8, "FREQ_HOP_TABLE layout");
+static_assert(sizeof(FREQ_HOP_TABLE) == 16, "FREQ_HOP_TABLE size");
+
+// The frequency-hopping tables of the reader.
+struct FREQ_HOP_INFO {
+  uint16_t numTables;
+  uint8_t pad2[6];
+  FREQ_HOP_TABLE* freqTables;
+};
+static_assert(offsetof(FREQ_HOP_INFO, numTables) == 0, "FREQ_HOP_INFO layout");
+static_assert(offsetof(FREQ_HOP_INFO, freqTables) == 8, "FREQ_HOP_INFO layout");
+static_assert(sizeof(FREQ_HOP_INFO) == 16, "FREQ_HOP_INFO size");
+
+// Fixed frequencies of a non-hopping reader.
+struct FIXED_FREQ_INFO {
+  uint16_t numFreq;
+  uint8_t pad2[6];
+  int32_t* freqList;
+};
+static_assert(offsetof(FIXED_FREQ_INFO, numFreq) == 0, "FIXED_FREQ_INFO layout");
+static_assert(offsetof(FIXED_FREQ_INFO, freqList) == 8, "FIXED_FREQ_INFO layout");
+static_assert(sizeof(FIXED_FREQ_INFO) == 16, "FIXED_FREQ_INFO size");
+
+// Duty cycles the reader offers.
+struct DUTY_CYCLE_TABLE {
+  uint16_t numValues;
+  uint8_t pad2[6];
+  int16_t* dutyCycleValueList;
+};
+static_assert(offsetof(DUTY_CYCLE_TABLE, numValues) == 0, "DUTY_CYCLE_TABLE layout");
+static_assert(offsetof(DUTY_CYCLE_TABLE, dutyCycleValueList) == 8, "DUTY_CYCLE_TABLE layout");
+static_assert(sizeof(DUTY_CYCLE_TABLE) == 16, "DUTY_CYCLE_TABLE size");
+
+// Room kept for READER_CAPS; its true size is the library's business.
+constexpr size_t kReaderCapsReserved = 3768;
+
+// What a reader can do: identity, versions, port counts, RF tables and
+// feature flags. Every table it points at belongs to the library.
+struct READER_CAPS {
+  uint8_t reserved0[8];
+  READER_ID readerID;
+  wchar_t firmWareVersion[kMaxWideChars];
+  wchar_t modelName[kMaxWideChars];
+  int16_t numAntennas;
+  int16_t numGPIs;
+  int16_t numGPOs;
+  RFID_BOOL utcClockSupported;
+  uint8_t reserved3139[5];
+  RECEIVE_SENSITIVITY_TABLE receiveSensitivtyTable;
+  uint8_t reserved3160[256];
+  RFID_BOOL blockEraseSupported;
+  RFID_BOOL blockWriteSupported;
+  RFID_BOOL stateAwareSingulationSupported;
+  RFID_BOOL recommissionSupported;
+  RFID_BOOL blockPermalockSupported;
+  RFID_BOOL writeUMISupported;
+  RFID_BOOL radioPowerControlSupported;
+  uint8_t reserved3423[1];
+  int16_t maxNumOperationsInAccessSequence;
+  int16_t maxNumPreFilters;
+  uint8_t reserved3428[4];
+  RF_MODES rfModes;
+  int16_t countryCode;
+  uint8_t pad3450[2];
+  int32_t enumCommunicationStandard;
+  TRANSMIT_POWER_LEVEL_TABLE transmitPowerLevelTable;
+  RFID_BOOL hoppingEnabled;
+  uint8_t reserved3473[7];
+  FREQ_HOP_INFO freqHopInfo;
+  FIXED_FREQ_INFO fixedFreqInfo;
+  RFID_BOOL tagEventReportingSupported;
+  RFID_BOOL rssiFilterSupported;
+  RFID_BOOL NXPCommandsSupported;
+  RFID_BOOL tagLocationingSupported;
+  uint8_t reserved3516[4];
+  DUTY_CYCLE_TABLE* dutyCycleTable;  // may be NULL
+  uint8_t reserved3528[3];
+  RFID_BOOL tagListFilterSupported;
+  uint8_t reserved3532[12];
+  RFID_BOOL periodicTagReportsSupported;
+  uint8_t reserved3545[1];
+  RFID_BOOL zoneSuppported;
+  RFID_BOOL antennaRFConfigSupported;
+  RFID_BOOL tagMovingStationarySupported;
+  RFID_BOOL quorinTriggerSupported;
+  RFID_BOOL G2V2CommandSupported;
+  RFID_BOOL GPSReportingSupported;
+  uint8_t reserved3552[216];
+};
+static_assert(offsetof(READER_CAPS, reserved0) == 0, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, readerID) == 8, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, readerID.enumType) == 8, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, readerID.value) == 12, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, firmWareVersion) == 1052, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, modelName) == 2092, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, numAntennas) == 3132, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, numGPIs) == 3134, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, numGPOs) == 3136, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, utcClockSupported) == 3138, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3139) == 3139, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, receiveSensitivtyTable.numValues) == 3144,
+              "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, receiveSensitivtyTable.receiveSensitivityValueList) == 3152,
+              "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3160) == 3160, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, blockEraseSupported) == 3416, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, blockWriteSupported) == 3417, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, stateAwareSingulationSupported) == 3418, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, recommissionSupported) == 3419, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, blockPermalockSupported) == 3420, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, writeUMISupported) == 3421, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, radioPowerControlSupported) == 3422, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3423) == 3423, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, maxNumOperationsInAccessSequence) == 3424,
+              "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, maxNumPreFilters) == 3426, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3428) == 3428, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, rfModes.numTables) == 3432, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, rfModes.uhfTables) == 3440, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, countryCode) == 3448, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, enumCommunicationStandard) == 3452, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, transmitPowerLevelTable.numValues) == 3456,
+              "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, transmitPowerLevelTable.powerValueList) == 3464,
+              "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, hoppingEnabled) == 3472, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3473) == 3473, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, freqHopInfo.numTables) == 3480, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, freqHopInfo.freqTables) == 3488, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, fixedFreqInfo.numFreq) == 3496, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, fixedFreqInfo.freqList) == 3504, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, tagEventReportingSupported) == 3512, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, rssiFilterSupported) == 3513, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, NXPCommandsSupported) == 3514, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, tagLocationingSupported) == 3515, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3516) == 3516, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, dutyCycleTable) == 3520, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3528) == 3528, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, tagListFilterSupported) == 3531, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3532) == 3532, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, periodicTagReportsSupported) == 3544, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3545) == 3545, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, zoneSuppported) == 3546, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, antennaRFConfigSupported) == 3547, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, tagMovingStationarySupported) == 3548, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, quorinTriggerSupported) == 3549, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, G2V2CommandSupported) == 3550, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, GPSReportingSupported) == 3551, "READER_CAPS layout");
+static_assert(offsetof(READER_CAPS, reserved3552) == 3552, "READER_CAPS layout");
+static_assert(sizeof(READER_CAPS) == kReaderCapsReserved, "READER_CAPS size");
+
+// Per-antenna stop condition of the antenna RF configuration.
+struct ANTENNA_STOP_TRIGGER {
+  int32_t stopTriggerType;  // ANTENNA_STOP_TRIGGER_TYPE
+  uint16_t stopTriggerValue;
+  uint8_t pad6[2];
+};
+static_assert(offsetof(ANTENNA_STOP_TRIGGER, stopTriggerType) == 0, "ANTENNA_STOP_TRIGGER layout");
+static_assert(offsetof(ANTENNA_STOP_TRIGGER, stopTriggerValue) == 4,
+              "ANTENNA_STOP_TRIGGER layout");
+static_assert(sizeof(ANTENNA_STOP_TRIGGER) == 8, "ANTENNA_STOP_TRIGGER size");
+
+// Size of the radio-configuration block handed to RFID_SetAntennaRfConfig;
+// ANTENNA_RF_CONFIG is given the whole of it.
+constexpr size_t kAntennaRfConfigBlockSize = 320;
+
+// Full RF configuration of one antenna. We use the first 30 bytes; the
+// rest of the block is the library's.
+struct ANTENNA_RF_CONFIG {
+  uint16_t transmitPowerIndex;
+  uint16_t receiveSensitivityIndex;
+  uint16_t transmitFrequencyIndex;
+  uint8_t pad6[2];
+  uint32_t rfModeTableIndex;
+  uint32_t tari;
+  uint16_t transmitPort;
+  uint16_t receivePort;
+  uint8_t reserved20[4];
+  ANTENNA_STOP_TRIGGER antennaStopTrigger;
+  uint8_t reserved32[288];
+};
+static_assert(offsetof(ANTENNA_RF_CONFIG, transmitPowerIndex) == 0, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, receiveSensitivityIndex) == 2, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, transmitFrequencyIndex) == 4, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, rfModeTableIndex) == 8, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, tari) == 12, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, transmitPort) == 16, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, receivePort) == 18, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, reserved20) == 20, "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, antennaStopTrigger.stopTriggerType) == 24,
+              "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, antennaStopTrigger.stopTriggerValue) == 28,
+              "ANTENNA_RF_CONFIG layout");
+static_assert(offsetof(ANTENNA_RF_CONFIG, reserved32) == 32, "ANTENNA_RF_CONFIG layout");
+static_assert(sizeof(ANTENNA_RF_CONFIG) == kAntennaRfConfigBlockSize, "ANTENNA_RF_CONFIG size");
+
+// Cable loss of one antenna's feed line.
+struct CABLE_LOSS_COMPENSATION {
+  uint16_t antennaID;
+  uint8_t pad2[2];
+  float cableLengthInFt;
+  float cableLossPer100Ft;
+};
+static_assert(sizeof(float) == 4, "float is 32-bit");
+static_assert(offsetof(CABLE_LOSS_COMPENSATION, antennaID) == 0, "CABLE_LOSS_COMPENSATION layout");
+static_assert(offsetof(CABLE_LOSS_COMPENSATION, cableLengthInFt) == 4,
+              "CABLE_LOSS_COMPENSATION layout");
+static_assert(offsetof(CABLE_LOSS_COMPENSATION, cableLossPer100Ft) == 8,
+              "CABLE_LOSS_COMPENSATION layout");
+static_assert(sizeof(CABLE_LOSS_COMPENSATION) == 12, "CABLE_LOSS_COMPENSATION size");
+
+// How the reader behaves on USB, and whether LLRP may take it over.
+struct USB_OPERATION_MODE_SETTINGS {
+  int32_t mode;  // USB_OPERATION_MODE
+  RFID_BOOL allowLLRPConnectionOverride;
+  uint8_t pad5[3];
+};
+static_assert(offsetof(USB_OPERATION_MODE_SETTINGS, mode) == 0, "USB_OPERATION_MODE_SETTINGS layout");
+static_assert(offsetof(USB_OPERATION_MODE_SETTINGS, allowLLRPConnectionOverride) == 4,
+              "USB_OPERATION_MODE_SETTINGS layout");
+static_assert(sizeof(USB_OPERATION_MODE_SETTINGS) == 8, "USB_OPERATION_MODE_SETTINGS size");
+
+// Third argument of RFID_SetDutyCycle / RFID_GetDutyCycle; we never read
+// it. The library needs at least 12 bytes; 16 are kept.
+struct DUTY_CYCLE_SCRATCH {
+  alignas(8) uint8_t reserved0[16];
+};
+static_assert(sizeof(DUTY_CYCLE_SCRATCH) == 16, "DUTY_CYCLE_SCRATCH size");
+
+// GPI debounce setting: four 32-bit values that we pass through untouched.
+struct GPI_DEBOUNCE_RECORD {
+  int32_t values[4];
+};
+static_assert(offsetof(GPI_DEBOUNCE_RECORD, values[0]) == 0, "GPI_DEBOUNCE_RECORD layout");
+static_assert(offsetof(GPI_DEBOUNCE_RECORD, values[1]) == 4, "GPI_DEBOUNCE_RECORD layout");
+static_assert(offsetof(GPI_DEBOUNCE_RECORD, values[2]) == 8, "GPI_DEBOUNCE_RECORD layout");
+static_assert(offsetof(GPI_DEBOUNCE_RECORD, values[3]) == 12, "GPI_DEBOUNCE_RECORD layout");
+static_assert(sizeof(GPI_DEBOUNCE_RECORD) == 16, "GPI_DEBOUNCE_RECORD size");
+
+// User LED: colour, how long, steady or blinking.
+struct LED_INFO {
+  int32_t ledColor;  // LED_COLOR
+  int32_t duration;
+  RFID_BOOL blink;
+  uint8_t pad9[7];
+  uint8_t reserved16[32];
+};
+static_assert(offsetof(LED_INFO, ledColor) == 0, "LED_INFO layout");
+static_assert(offsetof(LED_INFO, duration) == 4, "LED_INFO layout");
+static_assert(offsetof(LED_INFO, blink) == 8, "LED_INFO layout");
+static_assert(offsetof(LED_INFO, reserved16) == 16, "LED_INFO layout");
+static_assert(sizeof(LED_INFO) == 48, "LED_INFO size");
+
+// Allocation header at the start of some library records.
+struct STRUCT_INFO {
+  uint32_t memoryAllocated;
+  uint32_t memoryUsed;
+};
+static_assert(offsetof(STRUCT_INFO, memoryAllocated) == 0, "STRUCT_INFO layout");
+static_assert(offsetof(STRUCT_INFO, memoryUsed) == 4, "STRUCT_INFO layout");
+static_assert(sizeof(STRUCT_INFO) == 8, "STRUCT_INFO size");
+
+// Versions, up-time, memory, processor load and power source of a reader.
+struct SYSTEM_INFO {
+  STRUCT_INFO structInfo;
+  wchar_t radioFirmwareVersion[kMaxWideChars];
+  wchar_t fPGAVersion[kMaxWideChars];
+  wchar_t upTime[kMaxWideChars];
+  wchar_t readerName[kMaxWideChars];
+  wchar_t readerLocation[kMaxWideChars];
+  int32_t ramAvailable;
+  int32_t flashAvailable;
+  int32_t ramUsed;
+  int32_t ramTotal;
+  int8_t cpuUsageForUserProcesses;
+  int8_t cpuUsageForSystemProcesses;
+  uint8_t reserved5226[30];
+  int32_t powersourcetypeEnum;  // power-source enumeration; Java gets its low 16 bits
+  uint8_t reserved5260[76];
+};
+static_assert(offsetof(SYSTEM_INFO, structInfo.memoryAllocated) == 0, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, structInfo.memoryUsed) == 4, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, radioFirmwareVersion) == 8, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, fPGAVersion) == 1048, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, upTime) == 2088, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, readerName) == 3128, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, readerLocation) == 4168, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, ramAvailable) == 5208, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, flashAvailable) == 5212, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, ramUsed) == 5216, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, ramTotal) == 5220, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, cpuUsageForUserProcesses) == 5224, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, cpuUsageForSystemProcesses) == 5225, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, reserved5226) == 5226, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, powersourcetypeEnum) == 5256, "SYSTEM_INFO layout");
+static_assert(offsetof(SYSTEM_INFO, reserved5260) == 5260, "SYSTEM_INFO layout");
+static_assert(sizeof(SYSTEM_INFO) == 5336, "SYSTEM_INFO size");
+
+// Administrative identity of a reader.
+struct READER_INFO {
+  wchar_t name[kMaxWideChars];
+  wchar_t description[kMaxWideChars];
+  wchar_t location[kMaxWideChars];
+  wchar_t contact[kMaxWideChars];
+};
+static_assert(offsetof(READER_INFO, name) == 0, "READER_INFO layout");
+static_assert(offsetof(READER_INFO, description) == 1040, "READER_INFO layout");
+static_assert(offsetof(READER_INFO, location) == 2080, "READER_INFO layout");
+static_assert(offsetof(READER_INFO, contact) == 3120, "READER_INFO layout");
+static_assert(sizeof(READER_INFO) == 4160, "READER_INFO size");
+
+// Time zones the reader knows (library-owned names) and the active one.
+struct TIME_ZONE_LIST {
+  uint16_t numTimeZones;
+  uint8_t pad2[6];
+  wchar_t** timeZoneNames;
+  int16_t activeTimeZoneIndex;
+  uint8_t pad18[6];
+};
+static_assert(offsetof(TIME_ZONE_LIST, numTimeZones) == 0, "TIME_ZONE_LIST layout");
+static_assert(offsetof(TIME_ZONE_LIST, timeZoneNames) == 8, "TIME_ZONE_LIST layout");
+static_assert(offsetof(TIME_ZONE_LIST, activeTimeZoneIndex) == 16, "TIME_ZONE_LIST layout");
+static_assert(sizeof(TIME_ZONE_LIST) == 24, "TIME_ZONE_LIST size");
+
+// Success and failure counters of tag operations on one antenna.
+struct READER_STATS {
+  uint32_t identifiedSuccessCount;
+  uint32_t identifiedFailureCount;
+  uint32_t readSuccessCount;
+  uint32_t readFailureCount;
+  uint32_t writeSuccessCount;
+  uint32_t writeFailureCount;
+  uint32_t killSuccessCount;
+  uint32_t killFailureCount;
+  uint32_t lockSuccessCount;
+  uint32_t lockFailureCount;
+  uint32_t blockWriteSuccessCount;
+  uint32_t blockWriteFailureCount;
+  uint32_t blockEraseSuccessCount;
+  uint32_t blockEraseFailureCount;
+  uint32_t blockPermalockSuccessCount;
+  uint32_t blockPermalockFailureCount;
+  uint32_t nxpChangeEASSuccessCount;
+  uint32_t nxpChangeEASFailureCount;
+  uint32_t nxpEASAlarmSuccessCount;
+  uint32_t nxpEASAlarmFailureCount;
+  uint32_t nxpReadProtectSuccessCount;
+  uint32_t nxpReadProtectFailureCount;
+  uint32_t nxpResetReadProtectSuccessCount;
+  uint32_t nxpResetReadProtectFailureCount;
+  uint32_t nxpCalibrateSuccessCount;
+  uint32_t nxpCalibrateFailureCount;
+  uint32_t nxpChangeConfigSuccessCount;
+  uint32_t nxpChangeConfigFailureCount;
+  uint8_t reserved112[72];
+  uint32_t impinjQTSuccessCount;
+  uint32_t impinjQTFailureCount;
+};
+static_assert(offsetof(READER_STATS, identifiedSuccessCount) == 0, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, identifiedFailureCount) == 4, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, readSuccessCount) == 8, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, readFailureCount) == 12, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, writeSuccessCount) == 16, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, writeFailureCount) == 20, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, killSuccessCount) == 24, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, killFailureCount) == 28, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, lockSuccessCount) == 32, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, lockFailureCount) == 36, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockWriteSuccessCount) == 40, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockWriteFailureCount) == 44, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockEraseSuccessCount) == 48, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockEraseFailureCount) == 52, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockPermalockSuccessCount) == 56, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, blockPermalockFailureCount) == 60, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpChangeEASSuccessCount) == 64, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpChangeEASFailureCount) == 68, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpEASAlarmSuccessCount) == 72, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpEASAlarmFailureCount) == 76, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpReadProtectSuccessCount) == 80, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpReadProtectFailureCount) == 84, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpResetReadProtectSuccessCount) == 88, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpResetReadProtectFailureCount) == 92, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpCalibrateSuccessCount) == 96, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpCalibrateFailureCount) == 100, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpChangeConfigSuccessCount) == 104, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, nxpChangeConfigFailureCount) == 108, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, reserved112) == 112, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, impinjQTSuccessCount) == 184, "READER_STATS layout");
+static_assert(offsetof(READER_STATS, impinjQTFailureCount) == 188, "READER_STATS layout");
+static_assert(sizeof(READER_STATS) == 192, "READER_STATS size");
+
+// Configuration profiles stored on the reader (library-owned names) and
+// the active one.
+struct PROFILE_LIST {
+  uint16_t numProfiles;
+  uint8_t pad2[6];
+  wchar_t** profileNames;
+  int16_t activeProfileIndex;
+  uint8_t pad18[6];
+};
+static_assert(offsetof(PROFILE_LIST, numProfiles) == 0, "PROFILE_LIST layout");
+static_assert(offsetof(PROFILE_LIST, profileNames) == 8, "PROFILE_LIST layout");
+static_assert(offsetof(PROFILE_LIST, activeProfileIndex) == 16, "PROFILE_LIST layout");
+static_assert(sizeof(PROFILE_LIST) == 24, "PROFILE_LIST size");
+
+// Where a software update is fetched from, with its credentials.
+struct UPDATE_INFO {
+  wchar_t hostName[kMaxWideChars];
+  wchar_t userName[kMaxWideChars];
+  wchar_t password[kMaxWideChars];
+};
+static_assert(offsetof(UPDATE_INFO, hostName) == 0, "UPDATE_INFO layout");
+static_assert(offsetof(UPDATE_INFO, userName) == 1040, "UPDATE_INFO layout");
+static_assert(offsetof(UPDATE_INFO, password) == 2080, "UPDATE_INFO layout");
+static_assert(sizeof(UPDATE_INFO) == 3120, "UPDATE_INFO size");
+
+// Progress of a running update, with its message.
+struct UPDATE_STATUS {
+  int32_t percentage;
+  wchar_t updateInfo[285];
+};
+static_assert(offsetof(UPDATE_STATUS, percentage) == 0, "UPDATE_STATUS layout");
+static_assert(offsetof(UPDATE_STATUS, updateInfo) == 4, "UPDATE_STATUS layout");
+static_assert(sizeof(UPDATE_STATUS) == 1144, "UPDATE_STATUS size");
+
+// One user application installed on the reader (library-owned texts).
+struct USER_APP_INFO {
+  wchar_t* appName;
+  RFID_BOOL runStatus;
+  RFID_BOOL autoStart;
+  uint8_t pad10[6];
+  wchar_t* Metadata;
+};
+static_assert(offsetof(USER_APP_INFO, appName) == 0, "USER_APP_INFO layout");
+static_assert(offsetof(USER_APP_INFO, runStatus) == 8, "USER_APP_INFO layout");
+static_assert(offsetof(USER_APP_INFO, autoStart) == 9, "USER_APP_INFO layout");
+static_assert(offsetof(USER_APP_INFO, Metadata) == 16, "USER_APP_INFO layout");
+static_assert(sizeof(USER_APP_INFO) == 24, "USER_APP_INFO size");
+
+// The user applications installed on the reader (library-owned array).
+struct USER_APP_LIST {
+  uint8_t reserved0[8];
+  USER_APP_INFO* appList;
+};
+static_assert(offsetof(USER_APP_LIST, reserved0) == 0, "USER_APP_LIST layout");
+static_assert(offsetof(USER_APP_LIST, appList) == 8, "USER_APP_LIST layout");
+static_assert(sizeof(USER_APP_LIST) == 16, "USER_APP_LIST size");
+
+// ===========================================================================
 // Functions
 // ===========================================================================
 
@@ -1337,4 +1885,112 @@ RFID_STATUS RFID_GetLastAccessResult(READER_HANDLE readerHandle, uint32_t* first
                                      uint32_t* secondCount);
 RFID_STATUS RFID_DeinitializeAccessSequence(READER_HANDLE readerHandle);
 
+// --- Reader configuration and management --------------------------------------
+
+RFID_STATUS RFID_GetReaderCapsW(READER_HANDLE readerHandle, READER_CAPS* readerCaps);
+
+// The three 16-bit antenna indices, in the library's order.
+RFID_STATUS RFID_SetAntennaConfig(READER_HANDLE readerHandle, uint16_t antennaID,
+                                  uint16_t firstIndex, uint16_t secondIndex, uint16_t thirdIndex);
+RFID_STATUS RFID_GetAntennaConfig(READER_HANDLE readerHandle, uint16_t antennaID,
+                                  uint16_t* firstIndex, uint16_t* secondIndex,
+                                  uint16_t* thirdIndex);
+RFID_STATUS RFID_GetAntennaRfConfig(READER_HANDLE readerHandle, uint16_t antennaID,
+                                    ANTENNA_RF_CONFIG* config);
+RFID_STATUS RFID_SetAntennaRfConfig(READER_HANDLE readerHandle, uint16_t antennaID,
+                                    ANTENNA_RF_CONFIG* config);
+// count: the Java short that travels beside the array, as given.
+RFID_STATUS RFID_SetCableLossCompensation(READER_HANDLE readerHandle, int16_t count,
+                                          CABLE_LOSS_COMPENSATION** records);
+RFID_STATUS RFID_GetCableLossCompensation(READER_HANDLE readerHandle,
+                                          CABLE_LOSS_COMPENSATION* record);
+RFID_STATUS RFID_GetPhysicalAntennaProperties(READER_HANDLE readerHandle, uint16_t antennaID,
+                                              RFID_BOOL* flag, int32_t* value);
+RFID_STATUS RFID_SetAntennaMode(READER_HANDLE readerHandle, uint32_t antennaMode);
+RFID_STATUS RFID_GetAntennaMode(READER_HANDLE readerHandle, uint32_t* antennaMode);
+RFID_STATUS RFID_GetReadPointStatus(READER_HANDLE readerHandle, uint16_t antennaID,
+                                    RFID_BOOL* status);
+RFID_STATUS RFID_EnableReadPoint(READER_HANDLE readerHandle, uint16_t antennaID,
+                                 RFID_BOOL enable);
+
+// The two 32-bit RF mode values, in the library's order.
+RFID_STATUS RFID_SetRFMode(READER_HANDLE readerHandle, uint16_t antennaID, uint32_t firstValue,
+                           uint32_t secondValue);
+RFID_STATUS RFID_GetRFMode(READER_HANDLE readerHandle, uint16_t antennaID, uint32_t* firstValue,
+                           uint32_t* secondValue);
+RFID_STATUS RFID_SetDutyCycle(READER_HANDLE readerHandle, uint16_t dutyCycleIndex,
+                              DUTY_CYCLE_SCRATCH* scratch);
+RFID_STATUS RFID_GetDutyCycle(READER_HANDLE readerHandle, uint16_t* dutyCycleIndex,
+                              DUTY_CYCLE_SCRATCH* scratch);
+RFID_STATUS RFID_SetRadioPowerState(READER_HANDLE readerHandle, RFID_BOOL powerOn);
+RFID_STATUS RFID_GetRadioPowerState(READER_HANDLE readerHandle, RFID_BOOL* powerOn);
+RFID_STATUS RFID_TurnOffRadioWhenIdle(READER_HANDLE readerHandle, uint32_t timeoutMilliseconds);
+RFID_STATUS RFID_GetRadioIdleTimeout(READER_HANDLE readerHandle, uint32_t* timeoutMilliseconds);
+// Taken as 32 bits; Java keeps the low 16.
+RFID_STATUS RFID_GetPowerNegotiationStatus(READER_HANDLE readerHandle, uint32_t* status);
+RFID_STATUS RFID_SetPowerNegotiationState(READER_HANDLE readerHandle, RFID_BOOL state);
+RFID_STATUS RFID_GetPowerNegotiationState(READER_HANDLE readerHandle, RFID_BOOL* state);
+RFID_STATUS RFID_GetUSBOperationMode(READER_HANDLE readerHandle,
+                                     USB_OPERATION_MODE_SETTINGS* settings);
+RFID_STATUS RFID_SetUSBOperationMode(READER_HANDLE readerHandle,
+                                     USB_OPERATION_MODE_SETTINGS* settings);
+
+RFID_STATUS RFID_EnableGPIPort(READER_HANDLE readerHandle, int32_t port, RFID_BOOL enable);
+// value: the 32-bit number the library reports beside the state.
+RFID_STATUS RFID_GetGPIState(READER_HANDLE readerHandle, int32_t port, RFID_BOOL* state,
+                             int32_t* value);
+RFID_STATUS RFID_SetGPOState(READER_HANDLE readerHandle, int32_t port, RFID_BOOL state);
+RFID_STATUS RFID_GetGPOState(READER_HANDLE readerHandle, int32_t port, RFID_BOOL* state);
+RFID_STATUS RFID_SetGPIDebounceTime(READER_HANDLE readerHandle, int32_t value,
+                                    GPI_DEBOUNCE_RECORD* debounce);
+RFID_STATUS RFID_GetGPIDebounceTime(READER_HANDLE readerHandle, int32_t* value,
+                                    GPI_DEBOUNCE_RECORD* debounce);
+RFID_STATUS RFID_SetUserLED(READER_HANDLE readerHandle, LED_INFO* ledInfo);
+
+RFID_STATUS RFID_GetSystemInfoW(READER_HANDLE readerHandle, SYSTEM_INFO* systemInfo);
+RFID_STATUS RFID_GetReaderInfoW(READER_HANDLE readerHandle, READER_INFO* readerInfo);
+RFID_STATUS RFID_SetReaderInfoW(READER_HANDLE readerHandle, READER_INFO* readerInfo);
+RFID_STATUS RFID_GetLocalTime(READER_HANDLE readerHandle, SYSTEMTIME* localTime);
+RFID_STATUS RFID_SetLocalTime(READER_HANDLE readerHandle, SYSTEMTIME* localTime);
+RFID_STATUS RFID_GetTimeZoneListW(READER_HANDLE readerHandle, TIME_ZONE_LIST* timeZoneList);
+RFID_STATUS RFID_SetTimeZone(READER_HANDLE readerHandle, uint16_t timeZoneIndex);
+RFID_STATUS RFID_GetReaderStats(READER_HANDLE readerHandle, uint16_t antennaID,
+                                READER_STATS* stats);
+RFID_STATUS RFID_ClearReaderStats(READER_HANDLE readerHandle);
+// component: ordinal of the health enumeration; detail: the library's own
+// output area (may be NULL).
+RFID_STATUS RFID_GetHealthStatus(READER_HANDLE readerHandle, uint32_t component,
+                                 uint32_t* healthStatus, void* detail);
+
+RFID_STATUS RFID_GetProfileListW(READER_HANDLE readerHandle, PROFILE_LIST* profileList);
+// The two names travel in the order Java gives them.
+RFID_STATUS RFID_ImportProfileFromReaderW(READER_HANDLE readerHandle, const wchar_t* firstName,
+                                          const wchar_t* secondName);
+RFID_STATUS RFID_ExportProfileToReaderW(READER_HANDLE readerHandle, const wchar_t* firstName,
+                                        const wchar_t* secondName, RFID_BOOL flag);
+RFID_STATUS RFID_DeleteProfileW(READER_HANDLE readerHandle, const wchar_t* profileName);
+RFID_STATUS RFID_SetActiveProfileW(READER_HANDLE readerHandle, const wchar_t* profileName);
+RFID_STATUS RFID_UpdateSoftwareW(READER_HANDLE readerHandle, UPDATE_INFO* updateInfo);
+RFID_STATUS RFID_GetUpdateStatusW(READER_HANDLE readerHandle, UPDATE_STATUS* updateStatus);
+RFID_STATUS RFID_UpdateRadioConfigW(READER_HANDLE readerHandle, const wchar_t* fileName);
+RFID_STATUS RFID_UpdateRadioFirmwareW(READER_HANDLE readerHandle, const wchar_t* fileName);
+RFID_STATUS RFID_InstallUserAppW(READER_HANDLE readerHandle, const wchar_t* appName);
+RFID_STATUS RFID_UninstallUserAppW(READER_HANDLE readerHandle, const wchar_t* appName);
+RFID_STATUS RFID_StartUserAppW(READER_HANDLE readerHandle, const wchar_t* appName);
+RFID_STATUS RFID_StopUserAppW(READER_HANDLE readerHandle, const wchar_t* appName);
+RFID_STATUS RFID_SetUserAppAutoStartW(READER_HANDLE readerHandle, const wchar_t* appName,
+                                      RFID_BOOL autoStart);
+RFID_STATUS RFID_ListUserAppsW(READER_HANDLE readerHandle, USER_APP_LIST* appList);
+RFID_STATUS RFID_GetUserAppRunStatusW(READER_HANDLE readerHandle, const wchar_t* appName,
+                                      RFID_BOOL* runStatus);
+// config: the Java argument, forwarded as a pointer-sized value.
+RFID_STATUS RFID_SaveLlrpConfig(READER_HANDLE readerHandle, void* config);
+RFID_STATUS RFID_GetSaveLlrpConfigStatus(READER_HANDLE readerHandle, RFID_BOOL* status);
+RFID_STATUS RFID_ResetConfigToFactoryDefaults(READER_HANDLE readerHandle);
+
 }  // extern "C"
+
+// The library exports this one with C++ linkage: the symbol is the mangled
+// name of rfid_GetNumInstalledApps(void*, unsigned int*). The reader handle
+// goes in sign-extended to pointer width.
+RFID_STATUS rfid_GetNumInstalledApps(void* readerHandle, unsigned int* count);
