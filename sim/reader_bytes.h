@@ -1,6 +1,7 @@
-// Little-endian field access in caller records. The simulator reads and
-// writes records at fixed byte offsets with memcpy, never through a struct
-// definition shared with the library, so a wrong offset on one side shows.
+// Little-endian fields of records in memory the simulator owns (tag records,
+// event data, settings), at fixed byte offsets with memcpy, never through a
+// struct definition shared with the library. Records received from callers
+// are read from their captured copies instead (record_bytes.h).
 #pragma once
 
 #include <cstddef>
@@ -22,15 +23,8 @@ void store(void* base, size_t offset, T value) {
 }
 
 // A pointer member of a record (8 bytes on this platform).
-inline const uint8_t* loadPtr(const void* base, size_t offset) {
-  return reinterpret_cast<const uint8_t*>(load<uintptr_t>(base, offset));
-}
-
 inline void storePtr(void* base, size_t offset, const void* p) {
   store<uintptr_t>(base, offset, reinterpret_cast<uintptr_t>(p));
 }
-
-// Bytes needed for a bit count, as the records count pattern bits.
-inline size_t bitsToBytes(uint32_t bits) { return (static_cast<size_t>(bits) + 7) / 8; }
 
 }  // namespace sim

@@ -6,35 +6,29 @@
 
 namespace sim {
 
-CallOutcome finishCall(Recorder& rec, int64_t handle) {
+CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable) {
   CallOutcome outcome;
   outcome.status = rec.finish();
   outcome.reader = findReader(handle);
   if (outcome.status == kSuccess && !outcome.reader) outcome.status = kInvalidHandle;
+  if (outcome.status == kSuccess && !readable) outcome.status = kInvalidParam;
   return outcome;
 }
 
-bool hasScriptedOutput(const std::string& fn) {
-  uint8_t none = 0;
-  return scriptedOutput(fn, &none, 0);
-}
-
-// The journal copies min(n, scripted size) bytes; copying into two buffers of
-// different fill shows where the scripted bytes end: they agree, the rest not.
-bool scriptedOutputBytes(const std::string& fn, size_t max, std::vector<uint8_t>* bytes) {
-  std::vector<uint8_t> zeros(max, 0x00);
-  std::vector<uint8_t> ones(max, 0xFF);
-  if (!scriptedOutput(fn, zeros.data(), max)) return false;
-  scriptedOutput(fn, ones.data(), max);
-  size_t n = 0;
-  while (n < max && zeros[n] == ones[n]) ++n;
-  zeros.resize(n);
-  *bytes = std::move(zeros);
-  return true;
-}
-
 void writeOutput(const std::string& fn, void* dst, const void* normal, size_t n) {
-  if (!scriptedOutput(fn, dst, n)) std::memcpy(dst, normal, n);
+  std::vector<uint8_t> scripted;
+  if (scriptedOutput(fn, &scripted)) {
+    writeOuts({{dst, n}}, scripted);
+  } else {
+    std::memcpy(dst, normal, n);
+  }
+}
+
+bool writeScriptedOutput(const std::string& fn, void* dst, size_t n) {
+  std::vector<uint8_t> scripted;
+  if (!scriptedOutput(fn, &scripted)) return false;
+  writeOuts({{dst, n}}, scripted);
+  return true;
 }
 
 }  // namespace sim

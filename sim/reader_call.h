@@ -1,13 +1,15 @@
 // The common part of the simulated reader calls: after the call is recorded,
 // a status the test scripted wins; otherwise an unknown reader handle is
-// refused. A scripted failure still lets the call write its outputs, but it
-// must change no reader state.
+// refused. A scripted failure still lets the call write its outputs (for a
+// known reader), but it must change no reader state. Arguments are recorded
+// with raw() of api_call.h.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "api_call.h"
 #include "journal.h"
 #include "status.h"
 #include "reader_state.h"
@@ -23,19 +25,15 @@ struct CallOutcome {
   int32_t refused() const { return proceeds() ? kInvalidParam : status; }
 };
 
-// Raw argument values as the journal keeps them.
-inline uint64_t raw(const void* p) { return reinterpret_cast<uintptr_t>(p); }
-inline uint64_t raw(int64_t v) { return static_cast<uint64_t>(v); }
+// Finishes the recording and looks the reader up. `readable` false (a
+// record whose memory could not be captured) gives kInvalidParam unless a
+// status was scripted or the handle is unknown.
+CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable = true);
 
-// Finishes the recording and looks the reader up.
-CallOutcome finishCall(Recorder& rec, int64_t handle);
-
-bool hasScriptedOutput(const std::string& fn);
-// The whole output scripted for fn, at most max bytes; false when none.
-bool scriptedOutputBytes(const std::string& fn, size_t max, std::vector<uint8_t>* bytes);
-
-// Writes fn's scripted output into the caller's record, or else the n
-// bytes the call normally returns.
+// Writes fn's scripted output into the caller's n-byte record (zeroing what
+// the script does not cover), or else the n bytes the call normally returns.
 void writeOutput(const std::string& fn, void* dst, const void* normal, size_t n);
+// The scripted output alone; false (nothing written) when there is none.
+bool writeScriptedOutput(const std::string& fn, void* dst, size_t n);
 
 }  // namespace sim

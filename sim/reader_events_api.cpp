@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "events.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "reader_events.h"
 #include "status.h"
@@ -12,17 +13,13 @@
 namespace sim {
 namespace {
 
-constexpr uint32_t kMaxWaitHandles = 0xFFFF;  // bounds what a garbage count can touch
-
-uint64_t raw32(int32_t v) { return static_cast<uint32_t>(v); }
-
 // Set, reset and close answer 1 on success and 0 for an unknown handle.
 int32_t handleResult(bool known) { return known ? 1 : 0; }
 
 int32_t getEventData(const CallOutcome& call, uint32_t type, void* record) {
   if (!call.reader) return call.status;
   if (record == nullptr) return call.refused();
-  if (scriptedOutput("RFID_GetEventData", record, eventDataCapacity(type))) return call.status;
+  if (writeScriptedOutput("RFID_GetEventData", record, eventDataCapacity(type))) return call.status;
   std::vector<uint8_t> data;
   if (!isEventType(type) || !latestEventData(call.reader->handle, type, &data)) {
     return call.proceeds() ? kNotFound : call.status;
@@ -41,7 +38,7 @@ extern "C" {
 int64_t rfidUtils_CreateEvent(void* attributes, int32_t manualReset, int32_t initialState,
                               void* name) {
   Recorder rec("rfidUtils_CreateEvent",
-               {raw(attributes), raw32(manualReset), raw32(initialState), raw(name)});
+               {raw(attributes), raw(manualReset), raw(initialState), raw(name)});
   const int32_t status = rec.finish();
   uint64_t scripted = 0;
   if (scriptedPointer("rfidUtils_CreateEvent", &scripted)) return static_cast<int64_t>(scripted);
@@ -68,7 +65,7 @@ int32_t rfidUtils_CloseHandle(int64_t event) {
 }
 
 int32_t rfidUtils_WaitForSingleObject(int64_t event, int32_t timeoutMs) {
-  Recorder rec("rfidUtils_WaitForSingleObject", {raw(event), raw32(timeoutMs)});
+  Recorder rec("rfidUtils_WaitForSingleObject", {raw(event), raw(timeoutMs)});
   const int32_t status = rec.finish();
   return status != kSuccess ? status : waitForEvents({event}, false, timeoutMs);
 }
@@ -76,17 +73,19 @@ int32_t rfidUtils_WaitForSingleObject(int64_t event, int32_t timeoutMs) {
 int32_t rfidUtils_WaitForMultipleObjects(uint32_t count, const int64_t* handles, uint8_t waitAll,
                                          int32_t timeoutMs) {
   Recorder rec("rfidUtils_WaitForMultipleObjects",
-               {count, raw(handles), waitAll, raw32(timeoutMs)});
-  const uint32_t n = count > kMaxWaitHandles ? kMaxWaitHandles : count;
-  rec.blob("handles", handles, static_cast<size_t>(n) * sizeof(int64_t));
+               {raw(count), raw(handles), raw(waitAll), raw(timeoutMs)});
+  rec.blob("handles", handles, static_cast<size_t>(count) * sizeof(int64_t));
+  const Blob& captured = rec.captured("handles");
   const int32_t status = rec.finish();
   if (status != kSuccess) return status;
-  if (handles == nullptr) return kWaitFailed;
-  return waitForEvents(std::vector<int64_t>(handles, handles + n), waitAll != 0, timeoutMs);
+  if (!captured.present || captured.faulted) return kWaitFailed;
+  std::vector<int64_t> events(count);
+  std::memcpy(events.data(), captured.bytes.data(), captured.bytes.size());
+  return waitForEvents(events, waitAll != 0, timeoutMs);
 }
 
 int32_t RFID_RegisterEventNotification(int64_t handle, uint32_t type, int64_t event) {
-  Recorder rec("RFID_RegisterEventNotification", {raw(handle), type, raw(event)});
+  Recorder rec("RFID_RegisterEventNotification", {raw(handle), raw(type), raw(event)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
   if (!isEventType(type)) return kNotFound;
@@ -96,14 +95,14 @@ int32_t RFID_RegisterEventNotification(int64_t handle, uint32_t type, int64_t ev
 }
 
 int32_t RFID_DeregisterEventNotification(int64_t handle, uint32_t type) {
-  Recorder rec("RFID_DeregisterEventNotification", {raw(handle), type});
+  Recorder rec("RFID_DeregisterEventNotification", {raw(handle), raw(type)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
   return deregisterEvent(handle, type) ? kSuccess : kNotFound;
 }
 
 int32_t RFID_GetEventData(int64_t handle, uint32_t type, void* record) {
-  Recorder rec("RFID_GetEventData", {raw(handle), type, raw(record)});
+  Recorder rec("RFID_GetEventData", {raw(handle), raw(type), raw(record)});
   return getEventData(finishCall(rec, handle), type, record);
 }
 

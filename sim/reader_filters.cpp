@@ -1,35 +1,37 @@
 #include "reader_filters.h"
 
-#include "reader_bytes.h"
+#include "record_bytes.h"
 
 namespace sim {
 namespace {
 
-Bytes copyBits(const uint8_t* p, uint16_t bits) {
-  const size_t n = bitsToBytes(bits);
-  if (p == nullptr) return Bytes(n, 0);
-  return Bytes(p, p + n);
+// The pattern bits of a captured buffer; missing bytes read as 0.
+Bytes patternBits(const Blob& buffer, uint16_t bits) {
+  Bytes bytes = buffer.bytes;
+  bytes.resize(capture::bitsToBytes(bits), 0);
+  return bytes;
 }
 
 bool bitAt(const Bytes& bytes, size_t bit) {
   return (bytes[bit / 8] >> (7 - bit % 8)) & 1;
 }
 
-std::optional<TagPatternRule> readTagPattern(const uint8_t* p) {
-  if (p == nullptr) return std::nullopt;
+std::optional<TagPatternRule> readTagPattern(const CapturedBlobs& blobs, const std::string& name) {
+  const Blob& record = blobs(name);
+  if (!record.present) return std::nullopt;
   TagPatternRule rule;
-  rule.memoryBank = load<uint32_t>(p, 0);
-  rule.bitOffset = load<uint16_t>(p, 4);
-  rule.patternBits = load<uint16_t>(p, 16);
-  rule.pattern = copyBits(loadPtr(p, 8), rule.patternBits);
-  rule.maskBits = load<uint16_t>(p, 32);
-  rule.mask = copyBits(loadPtr(p, 24), rule.maskBits);
+  rule.memoryBank = fieldAt<uint32_t>(record, 0);
+  rule.bitOffset = fieldAt<uint16_t>(record, 4);
+  rule.patternBits = fieldAt<uint16_t>(record, 16);
+  rule.pattern = patternBits(blobs(name + ".tagPattern"), rule.patternBits);
+  rule.maskBits = fieldAt<uint16_t>(record, 32);
+  rule.mask = patternBits(blobs(name + ".tagMask"), rule.maskBits);
   return rule;
 }
 
-std::optional<RssiRangeRule> readRssiRange(const uint8_t* p) {
-  if (p == nullptr) return std::nullopt;
-  return RssiRangeRule{load<int8_t>(p, 0), load<int8_t>(p, 1), load<uint32_t>(p, 4)};
+std::optional<RssiRangeRule> readRssiRange(const Blob& range) {
+  if (!range.present) return std::nullopt;
+  return RssiRangeRule{fieldAt<int8_t>(range, 0), fieldAt<int8_t>(range, 1), fieldAt<uint32_t>(range, 4)};
 }
 
 bool matchesOrAbsent(const std::optional<TagPatternRule>& rule, const SimTag& tag) {
@@ -95,12 +97,14 @@ bool PostFilterRule::admits(const SimTag& tag, int8_t rssi) const {
   return combine(matchPattern, matchesOrAbsent(a, tag), matchesOrAbsent(b, tag));
 }
 
-PostFilterRule readPostFilter(const void* record) {
+std::optional<PostFilterRule> readPostFilter(const CapturedBlobs& blobs, const std::string& name) {
+  const Blob& record = blobs(name);
+  if (!record.present) return std::nullopt;
   PostFilterRule rule;
-  rule.a = readTagPattern(loadPtr(record, 8));
-  rule.b = readTagPattern(loadPtr(record, 16));
-  rule.matchPattern = load<uint32_t>(record, 24);
-  rule.rssiRange = readRssiRange(loadPtr(record, 32));
+  rule.a = readTagPattern(blobs, name + ".tagPatternA");
+  rule.b = readTagPattern(blobs, name + ".tagPatternB");
+  rule.matchPattern = fieldAt<uint32_t>(record, 24);
+  rule.rssiRange = readRssiRange(blobs(name + ".rssiRangeFilter"));
   return rule;
 }
 
@@ -112,17 +116,18 @@ uint32_t PreFilterRule::selectAction() const {
   }
 }
 
-PreFilterRule readPreFilter(uint16_t antenna, const void* record) {
+PreFilterRule readPreFilter(uint16_t antenna, const CapturedBlobs& blobs, const std::string& name) {
+  const Blob& record = blobs(name);
   PreFilterRule rule;
   rule.antenna = antenna;
-  rule.pattern.memoryBank = load<uint32_t>(record, 0);
-  rule.pattern.patternBits = load<uint16_t>(record, 16);
-  rule.pattern.pattern = copyBits(loadPtr(record, 8), rule.pattern.patternBits);
-  rule.pattern.bitOffset = load<uint16_t>(record, 18);
-  rule.filterAction = load<uint32_t>(record, 20);
-  rule.unawareActionOrTarget = load<uint32_t>(record, 24);
-  rule.stateAwareAction = load<uint32_t>(record, 28);
-  rule.truncateAction = load<uint32_t>(record, 32);
+  rule.pattern.memoryBank = fieldAt<uint32_t>(record, 0);
+  rule.pattern.patternBits = fieldAt<uint16_t>(record, 16);
+  rule.pattern.pattern = patternBits(blobs(name + ".tagPattern"), rule.pattern.patternBits);
+  rule.pattern.bitOffset = fieldAt<uint16_t>(record, 18);
+  rule.filterAction = fieldAt<uint32_t>(record, 20);
+  rule.unawareActionOrTarget = fieldAt<uint32_t>(record, 24);
+  rule.stateAwareAction = fieldAt<uint32_t>(record, 28);
+  rule.truncateAction = fieldAt<uint32_t>(record, 32);
   return rule;
 }
 

@@ -1,14 +1,16 @@
 // Filters the simulated reader applies while reading: post filters (tag
 // patterns A and B and an RSSI range, deciding what is reported) and
 // pre-filters (Gen2 select rules per antenna, deciding which tags take part).
-// Both are copied out of the caller's records when the call arrives, since
-// the caller frees its buffers right after the call.
+// Both are read from the copies of the caller's records taken when the call
+// arrived, since the caller frees its buffers right after the call.
 #pragma once
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "capture_read.h"
 #include "tag_population.h"
 
 namespace sim {
@@ -60,7 +62,9 @@ struct PostFilterRule {
   bool admits(const SimTag& tag, int8_t rssi) const;
 };
 
-PostFilterRule readPostFilter(const void* record);
+// From the blobs captureFilter recorded under name; nullopt when the filter
+// was NULL.
+std::optional<PostFilterRule> readPostFilter(const CapturedBlobs& blobs, const std::string& name);
 
 enum FilterAction : uint32_t {
   kFilterActionDefault = 0,
@@ -82,7 +86,8 @@ struct PreFilterRule {
   uint32_t selectAction() const;
 };
 
-PreFilterRule readPreFilter(uint16_t antenna, const void* record);
+// From the blobs capturePreFilter recorded under name.
+PreFilterRule readPreFilter(uint16_t antenna, const CapturedBlobs& blobs, const std::string& name);
 
 // Whether the tag takes part on the antenna: with no rule for the antenna
 // every tag does; otherwise the rules start from "not selected" and apply

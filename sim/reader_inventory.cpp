@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "capture_read.h"
-#include "reader_bytes.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "reader_operation.h"
 #include "status.h"
@@ -12,33 +12,27 @@
 namespace sim {
 namespace {
 
-constexpr uint32_t kMaxTagIdBytes = 0xFFFF;
-constexpr uint32_t kMaxAntennas = 0xFFFF;
-
-// The antennas an ANTENNA_INFO selects; empty (every antenna) for a NULL
-// record or a length of 0.
-std::vector<uint16_t> readAntennas(const void* antennaInfo) {
-  if (antennaInfo == nullptr) return {};
-  const uint8_t* list = loadPtr(antennaInfo, 0);
-  const uint32_t length = load<uint32_t>(antennaInfo, 8);
-  if (list == nullptr) return {};
+// The antennas a captured ANTENNA_INFO selects; empty (every antenna) for a
+// NULL record, a NULL list or a length of 0.
+std::vector<uint16_t> readAntennas(const Recorder& rec, const std::string& name) {
+  const Blob& list = rec.captured(name + ".antennaList");
   std::vector<uint16_t> antennas;
-  for (uint32_t i = 0; i < length && i < kMaxAntennas; ++i) {
-    antennas.push_back(load<uint16_t>(list, 2 * i));
+  for (size_t at = 0; at + 2 <= list.bytes.size(); at += 2) {
+    antennas.push_back(fieldAt<uint16_t>(list, at));
   }
   return antennas;
 }
 
-OperationPlan planFor(OperationKind kind, const void* antennaInfo, const void* triggerInfo) {
+OperationPlan planFor(OperationKind kind, const Recorder& rec) {
   OperationPlan plan;
   plan.kind = kind;
-  plan.antennas = readAntennas(antennaInfo);
-  plan.triggers = readTriggers(triggerInfo);
+  plan.antennas = readAntennas(rec, "antennaInfo");
+  plan.triggers = readTriggers(rec.captured("triggerInfo"));
   return plan;
 }
 
-int32_t start(Recorder& rec, int64_t handle, OperationPlan plan) {
-  const CallOutcome call = finishCall(rec, handle);
+int32_t start(Recorder& rec, int64_t handle, bool readable, OperationPlan plan) {
+  const CallOutcome call = finishCall(rec, handle, readable);
   if (!call.proceeds()) return call.status;
   return startOperation(call.reader, std::move(plan));
 }
@@ -61,12 +55,12 @@ int32_t RFID_PerformInventory(int64_t handle, void* postFilter, void* antennaInf
                               void* triggerInfo, void* reserved) {
   Recorder rec("RFID_PerformInventory",
                {raw(handle), raw(postFilter), raw(antennaInfo), raw(triggerInfo), raw(reserved)});
-  captureFilter(rec, "postFilter", postFilter);
-  captureAntennaInfo(rec, "antennaInfo", antennaInfo);
-  captureTriggerInfo(rec, "triggerInfo", triggerInfo);
-  OperationPlan plan = planFor(OperationKind::kInventory, antennaInfo, triggerInfo);
-  if (postFilter != nullptr) plan.postFilter = readPostFilter(postFilter);
-  return start(rec, handle, std::move(plan));
+  bool readable = captureFilter(rec, "postFilter", postFilter);
+  readable = captureAntennaInfo(rec, "antennaInfo", antennaInfo) && readable;
+  readable = captureTriggerInfo(rec, "triggerInfo", triggerInfo) && readable;
+  OperationPlan plan = planFor(OperationKind::kInventory, rec);
+  plan.postFilter = readPostFilter(capturedOf(rec), "postFilter");
+  return start(rec, handle, readable, std::move(plan));
 }
 
 int32_t RFID_StopInventory(int64_t handle) {
@@ -74,7 +68,7 @@ int32_t RFID_StopInventory(int64_t handle) {
 }
 
 int32_t RFID_PurgeTags(int64_t handle, uint32_t flags) {
-  Recorder rec("RFID_PurgeTags", {raw(handle), flags});
+  Recorder rec("RFID_PurgeTags", {raw(handle), raw(flags)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
   std::lock_guard<std::mutex> lock(call.reader->mutex);
@@ -84,18 +78,15 @@ int32_t RFID_PurgeTags(int64_t handle, uint32_t flags) {
 
 int32_t RFID_PerformTagLocationing(int64_t handle, const uint8_t* tagID, uint32_t length,
                                    void* antennaInfo, void* reserved1, void* reserved2) {
-  Recorder rec("RFID_PerformTagLocationing", {raw(handle), raw(tagID), length, raw(antennaInfo),
-                                              raw(reserved1), raw(reserved2)});
-  const uint32_t n = length > kMaxTagIdBytes ? kMaxTagIdBytes : length;
-  rec.blob("tagID", tagID, n);
-  captureAntennaInfo(rec, "antennaInfo", antennaInfo);
-  OperationPlan plan = planFor(OperationKind::kLocate, antennaInfo, nullptr);
-  if (tagID != nullptr) plan.locateEpc.assign(tagID, tagID + n);
-  if (tagID == nullptr && n > 0) {
-    const int32_t status = rec.finish();
-    return status != kSuccess ? status : kInvalidParam;
-  }
-  return start(rec, handle, std::move(plan));
+  Recorder rec("RFID_PerformTagLocationing", {raw(handle), raw(tagID), raw(length),
+                                              raw(antennaInfo), raw(reserved1), raw(reserved2)});
+  rec.blob("tagID", tagID, length);
+  const Blob& id = rec.captured("tagID");
+  bool readable = !id.faulted && (tagID != nullptr || length == 0);
+  readable = captureAntennaInfo(rec, "antennaInfo", antennaInfo) && readable;
+  OperationPlan plan = planFor(OperationKind::kLocate, rec);
+  plan.locateEpc = id.bytes;
+  return start(rec, handle, readable, std::move(plan));
 }
 
 int32_t RFID_StopTagLocationing(int64_t handle) {
@@ -106,9 +97,9 @@ int32_t RFID_PerformNXPEASScan(int64_t handle, void* antennaInfo, void* triggerI
                                void* reserved) {
   Recorder rec("RFID_PerformNXPEASScan",
                {raw(handle), raw(antennaInfo), raw(triggerInfo), raw(reserved)});
-  captureAntennaInfo(rec, "antennaInfo", antennaInfo);
-  captureTriggerInfo(rec, "triggerInfo", triggerInfo);
-  return start(rec, handle, planFor(OperationKind::kEasScan, antennaInfo, triggerInfo));
+  bool readable = captureAntennaInfo(rec, "antennaInfo", antennaInfo);
+  readable = captureTriggerInfo(rec, "triggerInfo", triggerInfo) && readable;
+  return start(rec, handle, readable, planFor(OperationKind::kEasScan, rec));
 }
 
 int32_t RFID_StopNXPEASScan(int64_t handle) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "capture_read.h"
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "status.h"
 
@@ -12,8 +13,8 @@ namespace {
 
 bool validAntenna(uint16_t antenna) { return antenna >= 1 && antenna <= kAntennaCount; }
 
-int32_t addPreFilter(const CallOutcome& call, uint16_t antenna, const void* preFilter,
-                     uint32_t* index) {
+int32_t addPreFilter(const CallOutcome& call, uint16_t antenna, const PreFilterRule& rule,
+                     const void* preFilter, uint32_t* index) {
   if (preFilter == nullptr || index == nullptr || (antenna != 0 && !validAntenna(antenna))) {
     return call.refused();
   }
@@ -23,7 +24,7 @@ int32_t addPreFilter(const CallOutcome& call, uint16_t antenna, const void* preF
   const uint32_t next = reader.nextPreFilterIndex;
   writeOutput("RFID_AddPreFilter", index, &next, sizeof next);
   if (!call.proceeds()) return call.status;
-  reader.preFilters.push_back({next, readPreFilter(antenna, preFilter)});
+  reader.preFilters.push_back({next, rule});
   ++reader.nextPreFilterIndex;
   return kSuccess;
 }
@@ -47,13 +48,14 @@ using namespace sim;
 extern "C" {
 
 int32_t RFID_AddPreFilter(int64_t handle, uint16_t antenna, void* preFilter, uint32_t* index) {
-  Recorder rec("RFID_AddPreFilter", {raw(handle), antenna, raw(preFilter), raw(index)});
-  capturePreFilter(rec, "preFilter", preFilter);
-  return addPreFilter(finishCall(rec, handle), antenna, preFilter, index);
+  Recorder rec("RFID_AddPreFilter", {raw(handle), raw(antenna), raw(preFilter), raw(index)});
+  const bool readable = capturePreFilter(rec, "preFilter", preFilter);
+  const PreFilterRule rule = readPreFilter(antenna, capturedOf(rec), "preFilter");
+  return addPreFilter(finishCall(rec, handle, readable), antenna, rule, preFilter, index);
 }
 
 int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
-  Recorder rec("RFID_DeletePreFilter", {raw(handle), antenna, index});
+  Recorder rec("RFID_DeletePreFilter", {raw(handle), raw(antenna), raw(index)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
   return deletePreFilter(*call.reader, antenna, index);
@@ -76,17 +78,17 @@ int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {
 int32_t RFID_SetTagStorageSettings(int64_t handle, void* settings) {
   Recorder rec("RFID_SetTagStorageSettings", {raw(handle), raw(settings)});
   rec.blob("tagStorageSettings", settings, sizeof(TagStorageSettings::raw));
-  const CallOutcome call = finishCall(rec, handle);
+  const Blob& captured = rec.captured("tagStorageSettings");
+  const CallOutcome call = finishCall(rec, handle, !captured.faulted);
   if (!call.proceeds()) return call.status;
-  if (settings == nullptr) return kInvalidParam;
+  if (!captured.present) return kInvalidParam;
   std::lock_guard<std::mutex> lock(call.reader->mutex);
-  std::copy_n(static_cast<const uint8_t*>(settings), call.reader->storage.raw.size(),
-              call.reader->storage.raw.begin());
+  std::copy(captured.bytes.begin(), captured.bytes.end(), call.reader->storage.raw.begin());
   return kSuccess;
 }
 
 int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
-  Recorder rec("RFID_GetSingulationControl", {raw(handle), antenna, raw(control)});
+  Recorder rec("RFID_GetSingulationControl", {raw(handle), raw(antenna), raw(control)});
   const CallOutcome call = finishCall(rec, handle);
   if (control == nullptr || !validAntenna(antenna)) return call.refused();
   if (!call.reader) return call.status;
@@ -100,13 +102,14 @@ int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* contr
 }
 
 int32_t RFID_SetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
-  Recorder rec("RFID_SetSingulationControl", {raw(handle), antenna, raw(control)});
+  Recorder rec("RFID_SetSingulationControl", {raw(handle), raw(antenna), raw(control)});
   rec.blob("singulationControl", control, sizeof(SingulationControl::raw));
-  const CallOutcome call = finishCall(rec, handle);
+  const Blob& captured = rec.captured("singulationControl");
+  const CallOutcome call = finishCall(rec, handle, !captured.faulted);
   if (!call.proceeds()) return call.status;
-  if (control == nullptr || !validAntenna(antenna)) return kInvalidParam;
+  if (!captured.present || !validAntenna(antenna)) return kInvalidParam;
   SingulationControl kept;
-  std::copy_n(static_cast<const uint8_t*>(control), kept.raw.size(), kept.raw.begin());
+  std::copy(captured.bytes.begin(), captured.bytes.end(), kept.raw.begin());
   std::lock_guard<std::mutex> lock(call.reader->mutex);
   call.reader->singulation[antenna] = kept;
   return kSuccess;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "reader_c_api.h"
 #include "reader_call.h"
 #include "session.h"
 #include "status.h"
@@ -13,7 +14,6 @@ namespace sim {
 namespace {
 
 constexpr size_t kScriptedRecordSize = 192;
-constexpr uint32_t kMaxRecordsPerCall = 0xFFFF;  // bounds what a garbage count can touch
 
 struct Fetched {
   std::vector<TagRead> reads;
@@ -34,10 +34,9 @@ Fetched fetchReads(Reader& reader, size_t max, bool take) {
 
 // rfid_GetReadTags with a scripted output: each 192-byte piece of it becomes
 // a new record.
-uint32_t scriptedRecords(int64_t handle, uint32_t max, void** records) {
-  std::vector<uint8_t> bytes;
-  scriptedOutputBytes("rfid_GetReadTags", static_cast<size_t>(max) * kScriptedRecordSize, &bytes);
-  const uint32_t n = static_cast<uint32_t>(bytes.size() / kScriptedRecordSize);
+uint32_t scriptedRecords(int64_t handle, uint32_t max, const std::vector<uint8_t>& bytes,
+                         void** records) {
+  const uint32_t n = static_cast<uint32_t>(std::min<size_t>(bytes.size() / kScriptedRecordSize, max));
   for (uint32_t i = 0; i < n; ++i) {
     records[i] = allocateTagRecord(handle);
     std::copy_n(bytes.begin() + i * kScriptedRecordSize, kScriptedRecordSize,
@@ -58,7 +57,7 @@ uint32_t bufferedRecords(Reader& reader, uint32_t max, bool take, void** records
 int32_t getReadTag(const CallOutcome& call, void* tag) {
   if (!call.reader) return call.status;
   if (tag == nullptr) return call.refused();
-  if (scriptedOutput("RFID_GetReadTag", tag, kTagRecordSize)) return call.status;
+  if (writeScriptedOutput("RFID_GetReadTag", tag, kTagRecordSize)) return call.status;
   if (!isTagRecord(tag)) return call.refused();
   const Fetched fetched = fetchReads(*call.reader, 1, call.proceeds());
   if (fetched.reads.empty()) return call.proceeds() ? kNoReadTags : call.status;
@@ -95,13 +94,13 @@ int32_t RFID_GetReadTag(int64_t handle, void* tag) {
 }
 
 int32_t rfid_GetReadTags(int64_t handle, uint32_t max, void** records, uint32_t* count) {
-  Recorder rec("rfid_GetReadTags", {raw(handle), max, raw(records), raw(count)});
+  Recorder rec("rfid_GetReadTags", {raw(handle), raw(max), raw(records), raw(count)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.reader) return call.status;
   if (records == nullptr || count == nullptr) return call.refused();
-  if (max > kMaxRecordsPerCall) max = kMaxRecordsPerCall;
-  if (hasScriptedOutput("rfid_GetReadTags")) {
-    *count = scriptedRecords(handle, max, records);
+  std::vector<uint8_t> scripted;
+  if (scriptedOutput("rfid_GetReadTags", &scripted)) {
+    *count = scriptedRecords(handle, max, scripted, records);
   } else {
     *count = bufferedRecords(*call.reader, max, call.proceeds(), records);
   }
@@ -109,14 +108,16 @@ int32_t rfid_GetReadTags(int64_t handle, uint32_t max, void** records, uint32_t*
 }
 
 int32_t rfid_DeallocateTags(int64_t handle, void** records, uint32_t count) {
-  Recorder rec("rfid_DeallocateTags", {raw(handle), raw(records), count});
-  const uint32_t n = count > kMaxRecordsPerCall ? kMaxRecordsPerCall : count;
-  rec.blob("records", records, static_cast<size_t>(n) * sizeof(void*));
-  const CallOutcome call = finishCall(rec, handle);
+  Recorder rec("rfid_DeallocateTags", {raw(handle), raw(records), raw(count)});
+  rec.blob("records", records, static_cast<size_t>(count) * sizeof(void*));
+  const Blob& captured = rec.captured("records");
+  const CallOutcome call = finishCall(rec, handle, !captured.faulted);
   if (!call.proceeds()) return call.status;
-  if (records == nullptr && n > 0) return kInvalidParam;
+  if (!captured.present && count > 0) return kInvalidParam;
   bool allOurs = true;
-  for (uint32_t i = 0; i < n; ++i) allOurs = releaseTagRecord(records[i]) && allOurs;
+  for (size_t at = 0; at < captured.bytes.size(); at += sizeof(void*)) {
+    allOurs = releaseTagRecord(const_cast<void*>(pointerAt(captured, at))) && allOurs;
+  }
   return allOurs ? kSuccess : kInvalidParam;
 }
 

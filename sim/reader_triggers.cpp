@@ -1,23 +1,22 @@
 #include "reader_triggers.h"
 
-#include "reader_bytes.h"
+#include "record_bytes.h"
 
 namespace sim {
 namespace {
 
-constexpr size_t kStopTrigger = 24;
-
-StartTrigger readStart(const void* t) {
+// START_TRIGGER at 0: type, then its value from 8.
+StartTrigger readStart(const Blob& t) {
   StartTrigger start;
-  switch (load<uint32_t>(t, 0)) {
+  switch (fieldAt<uint32_t>(t, 0)) {
     case 1:
       start.kind = StartTrigger::Kind::kPeriodic;
-      start.periodMs = load<uint32_t>(t, 8);
+      start.periodMs = fieldAt<uint32_t>(t, 8);
       break;
     case 2:
       start.kind = StartTrigger::Kind::kGpi;
-      start.gpi = {load<uint16_t>(t, 8), load<uint8_t>(t, 10) != 0};
-      start.timeoutMs = load<uint32_t>(t, 12);
+      start.gpi = {fieldAt<uint16_t>(t, 8), fieldAt<uint8_t>(t, 10) != 0};
+      start.timeoutMs = fieldAt<uint32_t>(t, 12);
       break;
     default:
       break;
@@ -25,11 +24,19 @@ StartTrigger readStart(const void* t) {
   return start;
 }
 
-StopTrigger withTimeout(StopTrigger::Kind kind, const uint8_t* s) {
+StopTrigger countedWithTimeout(StopTrigger::Kind kind, const Blob& t) {
   StopTrigger stop;
   stop.kind = kind;
-  stop.n = load<uint16_t>(s, 4);
-  stop.timeoutMs = load<uint32_t>(s, 8);
+  stop.n = fieldAt<uint16_t>(t, 28);
+  stop.timeoutMs = fieldAt<uint32_t>(t, 32);
+  return stop;
+}
+
+StopTrigger onGpi(const Blob& t) {
+  StopTrigger stop;
+  stop.kind = StopTrigger::Kind::kGpi;
+  stop.gpi = {fieldAt<uint16_t>(t, 28), fieldAt<uint8_t>(t, 30) != 0};
+  stop.timeoutMs = fieldAt<uint32_t>(t, 32);
   return stop;
 }
 
@@ -40,30 +47,24 @@ StopTrigger afterDuration(uint32_t ms) {
   return stop;
 }
 
-StopTrigger readStop(const uint8_t* s) {
-  switch (load<uint32_t>(s, 0)) {
-    case 1: return afterDuration(load<uint32_t>(s, 4));
-    case 2: {
-      StopTrigger stop;
-      stop.kind = StopTrigger::Kind::kGpi;
-      stop.gpi = {load<uint16_t>(s, 4), load<uint8_t>(s, 6) != 0};
-      stop.timeoutMs = load<uint32_t>(s, 8);
-      return stop;
-    }
-    case 3: return withTimeout(StopTrigger::Kind::kTagObservation, s);
-    case 4: return withTimeout(StopTrigger::Kind::kAttempts, s);
-    case 5: return afterDuration(load<uint32_t>(s, 8));
-    case 6: return afterDuration(load<uint32_t>(s, 4));
+// STOP_TRIGGER at 24: type, then its value from 28.
+StopTrigger readStop(const Blob& t) {
+  switch (fieldAt<uint32_t>(t, 24)) {
+    case 1: return afterDuration(fieldAt<uint32_t>(t, 28));
+    case 2: return onGpi(t);
+    case 3: return countedWithTimeout(StopTrigger::Kind::kTagObservation, t);
+    case 4: return countedWithTimeout(StopTrigger::Kind::kAttempts, t);
+    case 5: return afterDuration(fieldAt<uint32_t>(t, 32));  // handheld: its time-out
+    case 6: return afterDuration(fieldAt<uint32_t>(t, 28));  // time-lapse: its total
     default: return {};
   }
 }
 
 }  // namespace
 
-Triggers readTriggers(const void* triggerInfo) {
-  if (triggerInfo == nullptr) return {};
-  const auto* t = static_cast<const uint8_t*>(triggerInfo);
-  return {readStart(t), readStop(t + kStopTrigger)};
+Triggers readTriggers(const Blob& triggerInfo) {
+  if (!triggerInfo.present) return {};
+  return {readStart(triggerInfo), readStop(triggerInfo)};
 }
 
 }  // namespace sim

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+#include "journal.h"
+
 namespace sim {
 
 struct GpiCondition {
@@ -35,7 +37,8 @@ struct Triggers {
   StopTrigger stop;
 };
 
-// A NULL record starts at once and runs until stopped.
-Triggers readTriggers(const void* triggerInfo);
+// From the captured TRIGGER_INFO; an absent one (NULL) starts at once and
+// runs until stopped.
+Triggers readTriggers(const Blob& triggerInfo);
 
 }  // namespace sim

@@ -1,0 +1,62 @@
+package com.kovra.rfid.orla.sim;
+
+/**
+ * Test access to the simulated reader's tag side: the tag population in its
+ * field, GPI inputs, reader events, and counters that show what the library
+ * left behind.
+ *
+ * <p>The tag text format is one tag a line, '#' starting a comment, fields
+ * KEY=value separated by blanks: EPC=hex (required, whole 16-bit words),
+ * TID=hex, USER=hex, ACCESS=8 hex digits, KILL=8 hex digits, XPC=1 to 8 hex
+ * digits, ANT=1,3 (antennas 1 to 4 whose field holds the tag; default 1),
+ * RSSI=-52 (dBm; one value, or one per antenna of ANT; default -50), EAS=0|1.
+ *
+ * <p>Reader handles are those the simulated connection issued; a handle that
+ * is not an open session throws {@link IllegalArgumentException}.
+ */
+public final class SimReader {
+  static {
+    String path = System.getProperty("orla.sim");
+    if (path != null) {
+      System.load(path);
+    } else {
+      System.loadLibrary("halyard");
+    }
+  }
+
+  private SimReader() {}
+
+  /**
+   * Replaces the tag population by the tags of the text. Returns null, or the
+   * problem ("line 3: bad hex digit in EPC") and keeps the population as it was.
+   */
+  public static native String loadTags(String text);
+
+  /** Puts back the built-in population of two dozen tags. */
+  public static native void useBuiltInTags();
+
+  /** Number of tags in the population. */
+  public static native int tagCount();
+
+  /**
+   * A GPI port of the reader changes state: raises a GPI event (port and
+   * state as its data) and fires GPI start and stop triggers.
+   */
+  public static native void setGpi(long reader, int port, boolean state);
+
+  /**
+   * Raises an event of a type (0 to 15) on the reader, as if the reader had
+   * signalled it: the registered event object is set and RFID_GetEventData
+   * returns the data (cut to 16 bytes, 1088 for type 11).
+   */
+  public static native void raiseEvent(long reader, int type, byte[] data);
+
+  /** Tag records the reader handed out and that were not handed back yet. */
+  public static native int liveTagRecords(long reader);
+
+  /** Reads waiting in the reader's tag buffer. */
+  public static native int bufferedReads(long reader);
+
+  /** Seen times of later tag records in the up-time form (true) or UTC (false, the default). */
+  public static native void useUpTime(long reader, boolean upTime);
+}
