@@ -1,11 +1,11 @@
 package com.kovra.rfid.orla;
 
+import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
 
-import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
@@ -21,16 +21,16 @@ class FilterTest extends NativeTest {
 
     /** No such reader: the simulator records the call and starts nothing. */
     private static final int NO_READER = 77;
-    private static final byte[] PATTERN_BYTES = {0x11, 0x22, 0x33, 0x44};
-    private static final byte[] MASK_BYTES = {(byte) 0xF1, (byte) 0xF2, (byte) 0xF3, (byte) 0xF4};
+    private static final byte[] PATTERN = {0x11, 0x22, 0x33, 0x44};
+    private static final byte[] MASK = {(byte) 0xF1, (byte) 0xF2, (byte) 0xF3, (byte) 0xF4};
 
     private static TAG_PATTERN pattern(MEMORY_BANK bank, int bitOffset, int patternBits, int maskBits) {
         TAG_PATTERN p = new TAG_PATTERN();
         p.memoryBank = bank;
         p.bitOffset = (short) bitOffset;
-        p.tagPattern = PATTERN_BYTES.clone();
+        p.tagPattern = PATTERN.clone();
         p.tagPatternBitCount = (short) patternBits;
-        p.tagMask = MASK_BYTES.clone();
+        p.tagMask = MASK.clone();
         p.tagMaskBitCount = (short) maskBits;
         return p;
     }
@@ -41,7 +41,7 @@ class FilterTest extends NativeTest {
     }
 
     @Test
-    void postFilterAndPatternFieldsSitAtTheirOffsets() {
+    void filterAndPatternFieldsSitAtTheirOffsets() {
         POST_FILTER filter = new POST_FILTER();
         filter.structInfo.memoryAllocated = 0x1122_3344;
         filter.structInfo.memoryUsed = -1;
@@ -51,21 +51,11 @@ class FilterTest extends NativeTest {
         Call call = inventory(filter, null);
         byte[] record = call.blob("postFilter");
         assertEquals(40, record.length);
-        assertEquals(0x1122_3344L, Bytes.u32(record, 0));
-        assertEquals(0xFFFF_FFFFL, Bytes.u32(record, 4));
-        assertNotEquals(0L, Bytes.ptr(record, 8));
-        assertEquals(0L, Bytes.ptr(record, 16), "no pattern B");
-        assertEquals(5L, Bytes.u32(record, 24));
-        assertEquals(0L, Bytes.ptr(record, 32), "no RSSI range");
-        assertNull(call.blob("postFilter.tagPatternB"));
-        assertNull(call.blob("postFilter.rssiRangeFilter"));
-
-        byte[] a = call.blob("postFilter.tagPatternA");
-        assertEquals(2L, Bytes.u32(a, 0));
-        assertEquals(0x8020, Bytes.u16(a, 4));
-        assertEquals(12, Bytes.u16(a, 16));
-        assertEquals(0L, Bytes.ptr(a, 24), "a mask of 0 bits is NULL");
-        assertEquals(0, Bytes.u16(a, 32));
+        assertArrayEquals(new long[] {0x1122_3344L, 0xFFFF_FFFFL, 0, 5, 0}, fields(record, 0, 4, 4, 4, 16, 8, 24, 4, 32, 8),
+                "struct info, no pattern B, match pattern, no RSSI range");
+        assertNotEquals(0L, fields(record, 8, 8)[0]);
+        assertArrayEquals(new long[] {2, 0x8020, 12, 0, 0}, fields(call.blob("postFilter.tagPatternA"),
+                0, 4, 4, 2, 16, 2, 24, 8, 32, 2), "bank, offset, pattern bits, no mask");
         assertArrayEquals(new byte[] {0x11, 0x22}, call.blob("postFilter.tagPatternA.tagPattern"));
         assertNull(call.blob("postFilter.tagPatternA.tagMask"));
     }
@@ -75,15 +65,10 @@ class FilterTest extends NativeTest {
     void bitCountsRoundUpToWholeBytes(int bits, int bytes) {
         POST_FILTER filter = new POST_FILTER();
         filter.tagPatternB = pattern(MEMORY_BANK.MEMORY_BANK_USER, 0, bits, bits);
-
         Call call = inventory(filter, null);
-        assertEquals(0L, Bytes.ptr(call.blob("postFilter"), 8), "no pattern A");
-        byte[] b = call.blob("postFilter.tagPatternB");
-        assertEquals(3L, Bytes.u32(b, 0));
-        assertEquals(bits, Bytes.u16(b, 16));
-        assertEquals(bits, Bytes.u16(b, 32));
-        assertArrayEquals(Arrays.copyOf(PATTERN_BYTES, bytes), call.blob("postFilter.tagPatternB.tagPattern"));
-        assertArrayEquals(Arrays.copyOf(MASK_BYTES, bytes), call.blob("postFilter.tagPatternB.tagMask"));
+        assertArrayEquals(new long[] {3, bits, bits}, fields(call.blob("postFilter.tagPatternB"), 0, 4, 16, 2, 32, 2));
+        assertArrayEquals(Arrays.copyOf(PATTERN, bytes), call.blob("postFilter.tagPatternB.tagPattern"));
+        assertArrayEquals(Arrays.copyOf(MASK, bytes), call.blob("postFilter.tagPatternB.tagMask"));
     }
 
     @Test
@@ -93,15 +78,9 @@ class FilterTest extends NativeTest {
         filter.rssiRangeFilter.peakRSSILowerLimit = -70;
         filter.rssiRangeFilter.peakRSSIUpperLimit = 200;
         filter.rssiRangeFilter.matchRange = MATCH_RANGE.OUTSIDE_RANGE;
-
         Call call = inventory(filter, null);
-        byte[] range = call.blob("postFilter.rssiRangeFilter");
-        assertEquals(0xBA, Bytes.u8(range, 0));
-        assertEquals(0xC8, Bytes.u8(range, 1));
-        assertEquals(1L, Bytes.u32(range, 4));
-        byte[] record = call.blob("postFilter");
-        assertEquals(0L, Bytes.ptr(record, 8));
-        assertEquals(0L, Bytes.ptr(record, 16));
+        assertArrayEquals(new long[] {0xBA, 0xC8, 1}, fields(call.blob("postFilter.rssiRangeFilter"), 0, 1, 1, 1, 4, 4));
+        assertArrayEquals(new long[] {0, 0}, fields(call.blob("postFilter"), 8, 8, 16, 8), "no patterns");
     }
 
     @Test
@@ -110,30 +89,20 @@ class FilterTest extends NativeTest {
                 new OPERATION_QUALIFIER[] {OPERATION_QUALIFIER.LOCATE_TAG, OPERATION_QUALIFIER.NXP_EAS_SCAN,
                     OPERATION_QUALIFIER.C1G2_OPERATION, OPERATION_QUALIFIER.LOCATE_TAG});
         antennas.length = 3;
-
         Call call = inventory(null, antennas);
-        assertEquals(0L, call.arg(1), "no post filter");
-        byte[] record = call.blob("antennaInfo");
-        assertEquals(24, record.length);
-        assertEquals(3L, Bytes.u32(record, 8));
-        byte[] list = call.blob("antennaInfo.antennaList");
-        assertArrayEquals(new int[] {1, 2, 0x8004},
-                new int[] {Bytes.u16(list, 0), Bytes.u16(list, 2), Bytes.u16(list, 4)});
-        byte[] qualifiers = call.blob("antennaInfo.antennaOpList");
-        assertArrayEquals(new long[] {2, 1, 0},
-                new long[] {Bytes.u32(qualifiers, 0), Bytes.u32(qualifiers, 4), Bytes.u32(qualifiers, 8)});
+        assertArrayEquals(new long[] {0, 24, 3}, new long[] {call.arg(1), call.blob("antennaInfo").length,
+            fields(call.blob("antennaInfo"), 8, 4)[0]}, "no post filter, 24 bytes, length");
+        assertArrayEquals(new long[] {1, 2, 0x8004}, fields(call.blob("antennaInfo.antennaList"), 0, 2, 2, 2, 4, 2));
+        assertArrayEquals(new long[] {2, 1, 0}, fields(call.blob("antennaInfo.antennaOpList"), 0, 4, 4, 4, 8, 4));
     }
 
     @Test
     void qualifierListIsNullOnlyWhenJavaHasNone() {
-        ANTENNA_INFO without = new ANTENNA_INFO(new short[] {4});
-        assertEquals(0L, Bytes.ptr(inventory(null, without).blob("antennaInfo"), 16));
+        byte[] without = inventory(null, new ANTENNA_INFO(new short[] {4})).blob("antennaInfo");
+        assertArrayEquals(new long[] {1, 0}, fields(without, 8, 4, 16, 8));
 
-        ANTENNA_INFO empty = new ANTENNA_INFO(new short[0], new OPERATION_QUALIFIER[0]);
-        Call call = inventory(null, empty);
-        byte[] record = call.blob("antennaInfo");
-        assertEquals(0L, Bytes.u32(record, 8));
-        assertNotEquals(0L, Bytes.ptr(record, 16), "length 0 leaves the caller's list in place");
+        Call call = inventory(null, new ANTENNA_INFO(new short[0], new OPERATION_QUALIFIER[0]));
+        assertNotEquals(0L, fields(call.blob("antennaInfo"), 16, 8)[0], "length 0 keeps the caller's list");
         assertArrayEquals(new byte[0], call.blob("antennaInfo.antennaList"));
     }
 }

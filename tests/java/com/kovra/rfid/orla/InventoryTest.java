@@ -1,11 +1,10 @@
 package com.kovra.rfid.orla;
 
+import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
-import static org.junit.jupiter.api.Assertions.assertNull;
 
-import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import java.util.function.IntUnaryOperator;
@@ -16,7 +15,6 @@ class InventoryTest extends NativeTest {
 
     /** No such reader: the simulator records the call and starts nothing. */
     private static final int NO_READER = 77;
-    private static final int INVALID_HANDLE = 1;
 
     private static ANTENNA_INFO antennas(int count) {
         short[] ids = new short[count];
@@ -27,22 +25,17 @@ class InventoryTest extends NativeTest {
     }
 
     @Test
-    void inventoryWithoutObjectsPassesNullRecords() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_PerformInventory(-2, null, null, null));
-        assertArrayEquals(new long[] {-2L, 0, 0, 0, 0}, SimControl.args("RFID_PerformInventory", -1));
-    }
-
-    @Test
-    void inventoryStatusComesBackUnchanged() {
-        int handle = TagDataTest.connect();
+    void inventoryPassesNullForAbsentObjectsAndReturnsTheStatus() {
         SimControl.setStatus("RFID_PerformInventory", 0x7FFF_0000);
+        assertEquals(0x7FFF_0000, ORLANatives.RFID_PerformInventory(-2, null, null, null));
+        assertArrayEquals(new long[] {-2L, 0, 0, 0, 0}, SimControl.args("RFID_PerformInventory", -1));
+
         POST_FILTER filter = new POST_FILTER();
-        filter.tagPatternA = new TAG_PATTERN();
         filter.rssiRangeFilter = new RSSI_RANGE_FILTER();
-        assertEquals(0x7FFF_0000, ORLANatives.RFID_PerformInventory(handle, filter, antennas(12), new TRIGGER_INFO()));
+        ORLANatives.RFID_PerformInventory(NO_READER, filter, antennas(12), new TRIGGER_INFO());
         Call call = Call.last("RFID_PerformInventory");
-        assertEquals(handle, call.arg(0));
-        assertEquals(12L, Bytes.u32(call.blob("antennaInfo"), 8));
+        assertEquals(12, fields(call.blob("antennaInfo"), 8, 4)[0]);
+        assertEquals(12, fields(call.blob("antennaInfo.antennaList"), 22, 2)[0], "room for 12 antennas");
         assertEquals(0L, call.arg(4), "the reserved argument is NULL");
     }
 
@@ -62,32 +55,21 @@ class InventoryTest extends NativeTest {
 
     @Test
     void tagLocationingSendsTheIdAsBytes() {
-        ORLANatives.RFID_PerformTagLocationing(NO_READER, "0aF1", 2, null);
+        SimControl.setStatus("RFID_PerformTagLocationing", 31);
+        assertEquals(31, ORLANatives.RFID_PerformTagLocationing(NO_READER, "0aF1", 2, null));
         Call call = Call.last("RFID_PerformTagLocationing");
         assertArrayEquals(new byte[] {0x0A, (byte) 0xF1}, call.blob("tagID"));
-        assertEquals(2L, call.arg(2));
-        assertEquals(0L, call.arg(3), "no antennas: NULL");
-        assertEquals(0L, call.arg(4));
-        assertEquals(0L, call.arg(5));
+        assertArrayEquals(new long[] {2, 0, 0, 0}, new long[] {call.arg(2), call.arg(3), call.arg(4), call.arg(5)});
 
         ORLANatives.RFID_PerformTagLocationing(NO_READER, "ABC", 1, antennas(12));
         call = Call.last("RFID_PerformTagLocationing");
         assertArrayEquals(new byte[] {(byte) 0xAB}, call.blob("tagID"));
-        byte[] list = call.blob("antennaInfo.antennaList");
-        assertEquals(24, list.length);
-        assertEquals(12, Bytes.u16(list, 22));
+        assertEquals(12, fields(call.blob("antennaInfo.antennaList"), 22, 2)[0]);
 
         ORLANatives.RFID_PerformTagLocationing(NO_READER, "3000", 0, null);
         call = Call.last("RFID_PerformTagLocationing");
         assertNotEquals(0L, call.arg(1), "a length of 0 still gets a buffer");
         assertArrayEquals(new byte[0], call.blob("tagID"));
-    }
-
-    @Test
-    void tagLocationingStatusComesBackUnchanged() {
-        int handle = TagDataTest.connect();
-        SimControl.setStatus("RFID_PerformTagLocationing", 31);
-        assertEquals(31, ORLANatives.RFID_PerformTagLocationing(handle, "300833B2DDD9014000000001", 12, null));
     }
 
     @Test
@@ -99,22 +81,15 @@ class InventoryTest extends NativeTest {
         trigger.stopTrigger.type = STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_DURATION;
         trigger.stopTrigger.value.duration = 1500;
 
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_PerformNXPEASScan(NO_READER, antennas(8), trigger));
+        ORLANatives.RFID_PerformNXPEASScan(NO_READER, antennas(8), trigger);
         Call call = Call.last("RFID_PerformNXPEASScan");
-        assertEquals(8L, Bytes.u32(call.blob("antennaInfo"), 8));
-        assertEquals(8, Bytes.u16(call.blob("antennaInfo.antennaList"), 14));
-        byte[] r = call.blob("triggerInfo");
-        assertEquals(1L, Bytes.u32(r, 0));
-        assertEquals(250L, Bytes.u32(r, 8));
-        assertEquals(1L, Bytes.u32(r, 24));
-        assertEquals(1500L, Bytes.u32(r, 28));
-        assertEquals(2031, Bytes.u16(call.blob("triggerInfo.startTrigger.startTime"), 0));
+        assertEquals(8, fields(call.blob("antennaInfo.antennaList"), 14, 2)[0]);
+        assertArrayEquals(new long[] {1, 250, 1, 1500}, fields(call.blob("triggerInfo"), 0, 4, 8, 4, 24, 4, 28, 4));
+        assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0]);
         assertArrayEquals(new byte[256], call.blob("triggerInfo.extraTriggers"));
         assertEquals(0L, call.arg(3), "the reserved argument is NULL");
 
         ORLANatives.RFID_PerformNXPEASScan(NO_READER, null, null);
-        call = Call.last("RFID_PerformNXPEASScan");
-        assertArrayEquals(new long[] {NO_READER, 0, 0, 0}, call.args());
-        assertNull(call.blob("triggerInfo"));
+        assertArrayEquals(new long[] {NO_READER, 0, 0, 0}, SimControl.args("RFID_PerformNXPEASScan", -1));
     }
 }

@@ -1,5 +1,6 @@
 package com.kovra.rfid.orla;
 
+import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
@@ -43,7 +44,7 @@ class ReadCycleTest extends NativeTest {
 
     @Test
     void inventoryReportsExactlyTheFilteredTagsOfTheSelectedAntennas() {
-        int reader = TagDataTest.connect();
+        int reader = connect();
         int readEvent = (int) ORLANatives.rfidUtils_CreateEvent(0, 1, 0);
         int stopEvent = (int) ORLANatives.rfidUtils_CreateEvent(0, 1, 0);
         assertEquals(0, ORLANatives.RFID_RegisterEventNotification(reader, RFID_EVENT_TYPE.TAG_READ_EVENT, readEvent));
