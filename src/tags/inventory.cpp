@@ -44,7 +44,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1PerformInvento
   const RFID_STATUS status =
       RFID_PerformInventory(static_cast<READER_HANDLE>(readerHandle), postFilter != nullptr ? &filter : nullptr,
                             antennaRecord, triggerInfo != nullptr ? &trigger : nullptr, nullptr);
-  if (postFilter != nullptr) clearPostFilter(&filter);
+  if (postFilter != nullptr) clearPostFilter(&filter);  // the pattern bytes stay allocated
   return status;
 }
 
@@ -83,7 +83,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1StopTagLocatio
 }
 
 // Unlike the inventory, the scan keeps its start time records on the stack,
-// uncleared, and allocates nothing of its own.
+// uncleared, and allocates nothing of its own; only the extra trigger block
+// of the conversion stays allocated, as after every trigger conversion.
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1PerformNXPEASScan(JNIEnv* env, jclass,
                                                                                    jint readerHandle,
                                                                                    jobject antennaInfo,

@@ -2,6 +2,7 @@
 // that Java holds, or in batches straight into Java tag objects.
 #include <jni.h>
 
+#include <cstdint>
 #include <new>
 
 #include "bridge/pinned_array.h"
