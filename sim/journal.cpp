@@ -94,6 +94,7 @@ void Recorder::wide(const std::string& name, const wchar_t* s, size_t maxChars) 
   if (s != nullptr) {
     blob.present = true;
     blob.faulted = !safeWide(s, maxChars, &blob.bytes);
+    if (blob.faulted) blob.bytes.clear();
   }
   call_.blobs[name] = std::move(blob);
 }

@@ -1,7 +1,7 @@
 // The event utilities (event objects and waits) and the reader's event
 // registration and event data.
 #include <cstdint>
-#include <cstring>
+#include <algorithm>
 #include <vector>
 
 #include "events.h"
@@ -24,7 +24,7 @@ int32_t getEventData(const CallOutcome& call, uint32_t type, void* record) {
   if (!isEventType(type) || !latestEventData(call.reader->handle, type, &data)) {
     return call.proceeds() ? kNotFound : call.status;
   }
-  std::memcpy(record, data.data(), data.size());
+  std::copy(data.begin(), data.end(), static_cast<uint8_t*>(record));
   return call.status;
 }
 
@@ -79,8 +79,10 @@ int32_t rfidUtils_WaitForMultipleObjects(uint32_t count, const int64_t* handles,
   const int32_t status = rec.finish();
   if (status != kSuccess) return status;
   if (!captured.present || captured.faulted) return kWaitFailed;
-  std::vector<int64_t> events(count);
-  std::memcpy(events.data(), captured.bytes.data(), captured.bytes.size());
+  std::vector<int64_t> events;
+  for (size_t at = 0; at < captured.bytes.size(); at += sizeof(int64_t)) {
+    events.push_back(fieldAt<int64_t>(captured, at));
+  }
   return waitForEvents(events, waitAll != 0, timeoutMs);
 }
 

@@ -13,11 +13,11 @@ namespace {
 
 bool validAntenna(uint16_t antenna) { return antenna >= 1 && antenna <= kAntennaCount; }
 
+// `usable` false: a record or the index could not be read, so the index is
+// not written either.
 int32_t addPreFilter(const CallOutcome& call, uint16_t antenna, const PreFilterRule& rule,
-                     const void* preFilter, uint32_t* index) {
-  if (preFilter == nullptr || index == nullptr || (antenna != 0 && !validAntenna(antenna))) {
-    return call.refused();
-  }
+                     bool usable, uint32_t* index) {
+  if (!usable || (antenna != 0 && !validAntenna(antenna))) return call.refused();
   if (!call.reader) return call.status;
   Reader& reader = *call.reader;
   std::lock_guard<std::mutex> lock(reader.mutex);
@@ -49,9 +49,11 @@ extern "C" {
 
 int32_t RFID_AddPreFilter(int64_t handle, uint16_t antenna, void* preFilter, uint32_t* index) {
   Recorder rec("RFID_AddPreFilter", {raw(handle), raw(antenna), raw(preFilter), raw(index)});
-  const bool readable = capturePreFilter(rec, "preFilter", preFilter);
+  bool usable = capturePreFilter(rec, "preFilter", preFilter) && preFilter != nullptr;
+  rec.blob("index", index, sizeof *index);  // what the caller preset
+  usable = usable && index != nullptr && !rec.captured("index").faulted;
   const PreFilterRule rule = readPreFilter(antenna, capturedOf(rec), "preFilter");
-  return addPreFilter(finishCall(rec, handle, readable), antenna, rule, preFilter, index);
+  return addPreFilter(finishCall(rec, handle, usable), antenna, rule, usable, index);
 }
 
 int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
@@ -63,8 +65,10 @@ int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
 
 int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {
   Recorder rec("RFID_GetTagStorageSettings", {raw(handle), raw(settings)});
-  const CallOutcome call = finishCall(rec, handle);
-  if (settings == nullptr) return call.refused();
+  rec.blob("tagStorageSettings", settings, sizeof(TagStorageSettings::raw));  // as preset
+  const bool usable = settings != nullptr && !rec.captured("tagStorageSettings").faulted;
+  const CallOutcome call = finishCall(rec, handle, usable);
+  if (!usable) return call.refused();
   if (!call.reader) return call.status;
   TagStorageSettings kept;
   {
@@ -89,8 +93,10 @@ int32_t RFID_SetTagStorageSettings(int64_t handle, void* settings) {
 
 int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
   Recorder rec("RFID_GetSingulationControl", {raw(handle), raw(antenna), raw(control)});
-  const CallOutcome call = finishCall(rec, handle);
-  if (control == nullptr || !validAntenna(antenna)) return call.refused();
+  rec.blob("singulationControl", control, sizeof(SingulationControl::raw));  // as preset
+  const bool usable = control != nullptr && !rec.captured("singulationControl").faulted;
+  const CallOutcome call = finishCall(rec, handle, usable);
+  if (!usable || !validAntenna(antenna)) return call.refused();
   if (!call.reader) return call.status;
   SingulationControl kept;
   {

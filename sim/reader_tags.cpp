@@ -56,9 +56,8 @@ uint32_t bufferedRecords(Reader& reader, uint32_t max, bool take, void** records
 
 int32_t getReadTag(const CallOutcome& call, void* tag) {
   if (!call.reader) return call.status;
-  if (tag == nullptr) return call.refused();
+  if (!isTagRecord(tag)) return call.refused();  // NULL included
   if (writeScriptedOutput("RFID_GetReadTag", tag, kTagRecordSize)) return call.status;
-  if (!isTagRecord(tag)) return call.refused();
   const Fetched fetched = fetchReads(*call.reader, 1, call.proceeds());
   if (fetched.reads.empty()) return call.proceeds() ? kNoReadTags : call.status;
   fillTagRecord(tag, fetched.reads.front(), fetched.fill);

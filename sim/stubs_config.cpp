@@ -3,6 +3,7 @@
 // updates and user applications. Setters record what they were sent;
 // getters capture what the caller left in their outputs (tests check
 // presets so) and then write the scripted output, or zeros.
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
