@@ -35,8 +35,8 @@ class EventsTest extends NativeTest {
             assertEquals(0xFFFF_FFFF_8000_0005L, SimControl.args(functions[i], -1)[0], functions[i]);
         }
         assertEquals(WAIT_FAILED, ORLANatives.rfidUtils_WaitForSingleObject((int) wide, -1));
-        assertArrayEquals(new long[] {0xFFFF_FFFF_8000_0005L, 0xFFFF_FFFFL},
-                SimControl.args("rfidUtils_WaitForSingleObject", -1));
+        assertArrayEquals(new long[] {0xFFFF_FFFF_8000_0005L, -1L},
+                SimControl.args("rfidUtils_WaitForSingleObject", -1), "handle and time-out sign-extended");
         ORLANatives.RFID_RegisterEventNotification(-7, RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT, (int) wide);
         assertArrayEquals(new long[] {-7L, 10, 0xFFFF_FFFF_8000_0005L},
                 SimControl.args("RFID_RegisterEventNotification", -1));
@@ -60,6 +60,7 @@ class EventsTest extends NativeTest {
 
         assertEquals(WAIT_FAILED, ORLANatives.rfidUtils_WaitForMultipleObjects(0, null, false, -1));
         assertArrayEquals(new byte[0], SimControl.blob("rfidUtils_WaitForMultipleObjects", -1, "handles"));
+        assertEquals(-1L, SimControl.args("rfidUtils_WaitForMultipleObjects", -1)[3], "time-out sign-extended");
     }
 
     private static EVENT_DATA eventData(int reader, RFID_EVENT_TYPE type, Bytes.Builder record) {
