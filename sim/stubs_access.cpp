@@ -6,15 +6,13 @@
 #include <string>
 
 #include "api_call.h"
+#include "capture_read.h"
 #include "record_bytes.h"
 #include "session_store.h"
 
 namespace sim {
 namespace {
 
-constexpr size_t kAccessFilterBytes = 40;
-constexpr size_t kAntennaInfoBytes = 24;
-constexpr size_t kTriggerInfoBytes = 64;
 constexpr size_t kTagDataBytes = 192;
 constexpr size_t kAccessOperationBytes = 48;
 constexpr size_t kOperationParamsAt = 8;
@@ -88,16 +86,6 @@ void captureOperation(ApiCall& call, const void* operation) {
   if (layout.bytes > 0) captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
 }
 
-// Filters and antenna selections as they arrive; what they point to is
-// captured where they are converted for inventory.
-void captureFilter(ApiCall& call, const void* filter) {
-  call.blob("accessFilter", filter, kAccessFilterBytes);
-}
-
-void captureAntennas(ApiCall& call, const void* antenna) {
-  call.blob("antennaInfo", antenna, kAntennaInfoBytes);
-}
-
 int32_t answerWithTag(ApiCall& call, void* tag) {
   call.outputsIfScripted({{tag, kTagDataBytes}});
   return call.finish();
@@ -141,8 +129,8 @@ int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, vo
   ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kReadParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -151,8 +139,8 @@ int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagID
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kPermalockParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -161,8 +149,8 @@ int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagI
   ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -171,8 +159,8 @@ int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLe
   ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kQtReadParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -181,8 +169,8 @@ int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLe
   ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kAuthenticateParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -191,8 +179,8 @@ int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLen
   ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kUntraceableParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -201,8 +189,8 @@ int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kReadBufferParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -211,8 +199,8 @@ int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, 
   ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kCryptoParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -224,8 +212,8 @@ int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, v
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -234,8 +222,8 @@ int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -244,8 +232,8 @@ int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kBlockEraseParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -254,8 +242,8 @@ int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, vo
   ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kLockParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -264,8 +252,8 @@ int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, vo
   ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kKillParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -274,8 +262,8 @@ int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLe
   ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kRecommissionParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -284,8 +272,8 @@ int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagID
   ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -294,8 +282,8 @@ int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLengt
   ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -304,8 +292,8 @@ int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDL
   ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kQtWriteParams);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -317,7 +305,7 @@ int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t 
   ApiCall call("RFID_WriteAccessPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
-  sim::captureAntennas(call, antenna);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -326,7 +314,7 @@ int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t ta
   ApiCall call("RFID_WriteKillPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
-  sim::captureAntennas(call, antenna);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -335,7 +323,7 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   ApiCall call("RFID_WriteTagID", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
-  sim::captureAntennas(call, antenna);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -343,7 +331,7 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
 int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, void* reserved) {
   ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
   sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureAntennas(call, antenna);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
 
@@ -368,9 +356,9 @@ int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
 
 int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, void* trigger, void* reserved) {
   ApiCall call("RFID_PerformAccessSequence", handle, filter, antenna, trigger, reserved);
-  sim::captureFilter(call, filter);
-  sim::captureAntennas(call, antenna);
-  call.blob("triggerInfo", trigger, sim::kTriggerInfoBytes);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTriggerInfo(call, "triggerInfo", trigger);
   return call.finish();
 }
 
