@@ -1,0 +1,70 @@
+// The management session on a reader: log in with a user name and password,
+// log out, and restart the reader.
+#include <jni.h>
+
+#include <cstdint>
+#include <memory>
+
+#include "bridge/conversions.h"
+#include "bridge/pinned_array.h"
+#include "com_kovra_rfid_orla_ORLANatives.h"
+#include "jni_fields.h"
+#include "reader_api.h"
+#include "session/string_field.h"
+#include "tags/enum_field.h"
+
+namespace {
+
+constexpr const char* kRfidVersionSignature = "Lcom/kovra/rfid/orla/RFID_VERSION;";
+
+// A text field of the login object and the record's buffer it goes into.
+struct LoginText {
+  const char* field;
+  wchar_t* buffer;
+};
+
+}  // namespace
+
+extern "C" {
+
+// A null login object sends a NULL record; a null text field leaves its
+// buffer empty. The handle reaches Java only on success.
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* env, jclass, jlongArray handleOut,
+                                                                       jobject loginInfo, jobject readerType,
+                                                                       jboolean flag) {
+  orla::PinnedArray<jlongArray> handle(env, handleOut);
+
+  std::unique_ptr<LOGIN_INFO> record;
+  if (loginInfo != nullptr) {
+    record = std::make_unique<LOGIN_INFO>();  // all zero
+    const LoginText texts[] = {
+        {"hostName", record->hostName}, {"userName", record->userName}, {"password", record->password}};
+    for (const LoginText& text : texts) {
+      jstring value = getStringFromJobject(env, loginInfo, text.field);
+      if (value == nullptr) continue;
+      // Fetched once and deliberately never released: login keeps this leak as it stands.
+      static_cast<void>(env->GetStringUTFChars(value, nullptr));
+      JavaToWSZ(env, value, text.buffer);
+    }
+    record->forceLogin = getBoolFromJobject(env, loginInfo, "forceLogin") ? 1 : 0;
+    record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
+  }
+  const auto kind = static_cast<uint32_t>(getEnumValueFromJobject(env, readerType, 0));
+
+  READER_HANDLE slot = 0;
+  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, flag != JNI_FALSE ? 1 : 0, nullptr);
+  if (status == 0) handle[0] = slot;
+  record.reset();
+  handle.release();  // mode 0, whatever the status
+  return status;
+}
+
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Logout(JNIEnv*, jclass, jint readerHandle) {
+  return RFID_Logout(static_cast<READER_HANDLE>(readerHandle));
+}
+
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Restart(JNIEnv*, jclass, jint readerHandle) {
+  return RFID_Restart(static_cast<READER_HANDLE>(readerHandle));
+}
+
+}  // extern "C"
