@@ -1,0 +1,81 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.LoginTest.letters;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.SimControl;
+import org.junit.jupiter.api.Test;
+
+/** The last error on a reader, status descriptions, the library version and the trace level. */
+class ErrorsVersionTest extends NativeTest {
+
+    private static final String LAST_ERROR = "RFID_GetLastErrorInfoW";
+
+    private static short[] timeStamp(SYSTEMTIME t) {
+        return new short[] {t.Year, t.Month, t.DayOfWeek, t.Day, t.Hour, t.Minute, t.Second, t.Milliseconds};
+    }
+
+    private static byte[] errorRecord() {
+        Bytes.Builder r = new Bytes.Builder(2120);
+        int[] members = {2024, 0xFFFF, 0x8000, 31, 23, 59, 58, 999};
+        for (int i = 0; i < members.length; i++) {
+            r.u16(2 * i, members[i]);
+        }
+        return r.u32(16, 0x8000_0005L).wide(20, "Invalid parameter", 260).wide(1060, "antenna 3 open", 265).build();
+    }
+
+    @Test
+    void lastErrorWritesTextsCodeAndSignExtendedTimeStampOnSuccessOnly() {
+        SimControl.setStatus(LAST_ERROR, 0);
+        SimControl.setOutput(LAST_ERROR, errorRecord());
+        ERROR_INFO info = new ERROR_INFO();
+        assertEquals(0, ORLANatives.RFID_GetLastErrorInfo(-3, info));
+        assertEquals(0xFFFF_FFFF_FFFF_FFFDL, SimControl.args(LAST_ERROR, -1)[0]);
+        assertEquals("Invalid parameter", info.statusDesc);
+        assertEquals("antenna 3 open", info.vendorMessage);
+        assertEquals(0x8000_0005, info.enumRfidStatusCode);
+        assertArrayEquals(new short[] {2024, -1, -32768, 31, 23, 59, 58, 999}, timeStamp(info.errorTimeStamp));
+
+        SimControl.setStatus(LAST_ERROR, 1);
+        ERROR_INFO untouched = new ERROR_INFO();
+        untouched.statusDesc = "before";
+        assertEquals(1, ORLANatives.RFID_GetLastErrorInfo(5, untouched), "the simulator still wrote the record");
+        assertArrayEquals(new Object[] {"before", null, 0}, new Object[] {untouched.statusDesc,
+            untouched.vendorMessage, untouched.enumRfidStatusCode});
+        assertArrayEquals(new short[8], timeStamp(untouched.errorTimeStamp));
+    }
+
+    @Test
+    void descriptionIsTheTextOfTheOrdinalInFull() {
+        assertEquals("Invalid parameter", ORLANatives.RFID_GetErrorDescription(RFID_STATUS.RFID_API_PARAM_ERROR));
+        assertEquals(RFID_STATUS.RFID_API_PARAM_ERROR.ordinal(), SimControl.args("RFID_GetErrorDescriptionW", -1)[0]);
+
+        SimControl.setPointer("RFID_GetErrorDescriptionW", SimControl.allocWide(letters(259)));
+        assertEquals(letters(259), ORLANatives.RFID_GetErrorDescription(RFID_STATUS.RFID_OUT_OF_MEMORY),
+                "259 bytes and the terminator fill the buffer");
+        SimControl.setPointer("RFID_GetErrorDescriptionW", SimControl.allocWide(""));
+        assertEquals("", ORLANatives.RFID_GetErrorDescription(RFID_STATUS.RFID_API_SUCCESS));
+    }
+
+    @Test
+    void versionIsWrittenOnSuccessOnly() {
+        VERSION_INFO version = new VERSION_INFO();
+        SimControl.setOutput("RFID_GetDllVersionInfoW", new Bytes.Builder(1048).wide(0, "4.2.1-b77", 262).build());
+        assertEquals(0, ORLANatives.RFID_GetDllVersionInfo(version));
+        assertEquals("4.2.1-b77", version.dllVersion);
+
+        SimControl.setStatus("RFID_GetDllVersionInfoW", 7);
+        version.dllVersion = "before";
+        assertEquals(7, ORLANatives.RFID_GetDllVersionInfo(version));
+        assertEquals("before", version.dllVersion);
+    }
+
+    @Test
+    void traceLevelPassesHandleSignExtendedAndLevelAs32Bits() {
+        SimControl.setStatus("RFID_SetTraceLevel", -4);
+        assertEquals(-4, ORLANatives.RFID_SetTraceLevel(-1, Integer.MIN_VALUE));
+        assertArrayEquals(new long[] {-1L, 0x8000_0000L}, SimControl.args("RFID_SetTraceLevel", -1));
+    }
+}
