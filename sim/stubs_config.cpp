@@ -248,7 +248,8 @@ int32_t RFID_GetGPOState(int64_t handle, int32_t port, uint8_t* state) {
   return call.finish();
 }
 
-// The debounce pair and the LED refuse a NULL record.
+// The debounce pair and the LED refuse a NULL record. The getter's scripted
+// output covers its value and then the record, which is in and out.
 int32_t RFID_SetGPIDebounceTime(int64_t handle, int32_t value, void* debounce) {
   ApiCall call("RFID_SetGPIDebounceTime", handle, value, debounce);
   call.blob("debounce", debounce, sim::kDebounceBytes);
@@ -260,7 +261,7 @@ int32_t RFID_GetGPIDebounceTime(int64_t handle, uint32_t* value, void* debounce)
   ApiCall call("RFID_GetGPIDebounceTime", handle, value, debounce);
   call.blob("debounce", debounce, sim::kDebounceBytes);
   call.require(debounce);
-  call.outputs({{value, 4, "value"}});
+  call.outputs({{value, 4, "value"}, {debounce, sim::kDebounceBytes}});
   return call.finish();
 }
 
