@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "api_call.h"
+#include "radio_io_settings.h"
 #include "record_bytes.h"
 
 namespace sim {
@@ -136,14 +137,18 @@ int32_t RFID_EnableReadPoint(int64_t handle, uint16_t antennaID, uint8_t enable)
 
 // Radio.
 
+// The getters answer with what the setters were last given (radio on, the
+// rest zero, before that) unless a test scripted their output.
+
 int32_t RFID_SetRFMode(int64_t handle, uint16_t antennaID, uint32_t first, uint32_t second) {
   ApiCall call("RFID_SetRFMode", handle, antennaID, first, second);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(),
+                          [&](sim::RadioIoSettings& kept) { kept.rfMode[antennaID] = {first, second}; });
 }
 
 int32_t RFID_GetRFMode(int64_t handle, uint16_t antennaID, uint32_t* first, uint32_t* second) {
   ApiCall call("RFID_GetRFMode", handle, antennaID, first, second);
-  call.outputs({{first, 4, "first"}, {second, 4, "second"}});
+  call.outputs({{first, 4, "first"}, {second, 4, "second"}}, sim::keptRadioIo(handle).rfModeAnswer(antennaID));
   return call.finish();
 }
 
@@ -151,34 +156,36 @@ int32_t RFID_GetRFMode(int64_t handle, uint16_t antennaID, uint32_t* first, uint
 // read from or written to them.
 int32_t RFID_SetDutyCycle(int64_t handle, uint16_t dutyCycleIndex, void* scratch) {
   ApiCall call("RFID_SetDutyCycle", handle, dutyCycleIndex, scratch);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(),
+                          [&](sim::RadioIoSettings& kept) { kept.dutyCycleIndex = dutyCycleIndex; });
 }
 
 int32_t RFID_GetDutyCycle(int64_t handle, uint16_t* dutyCycleIndex, void* scratch) {
   ApiCall call("RFID_GetDutyCycle", handle, dutyCycleIndex, scratch);
-  call.outputs({{dutyCycleIndex, 2, "dutyCycleIndex"}});
+  call.outputs({{dutyCycleIndex, 2, "dutyCycleIndex"}}, sim::answerBytes(sim::keptRadioIo(handle).dutyCycleIndex));
   return call.finish();
 }
 
 int32_t RFID_SetRadioPowerState(int64_t handle, uint8_t on) {
   ApiCall call("RFID_SetRadioPowerState", handle, on);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(), [&](sim::RadioIoSettings& kept) { kept.radioOn = on; });
 }
 
 int32_t RFID_GetRadioPowerState(int64_t handle, uint8_t* on) {
   ApiCall call("RFID_GetRadioPowerState", handle, on);
-  call.outputs({{on, 1, "on"}});
+  call.outputs({{on, 1, "on"}}, sim::answerBytes(sim::keptRadioIo(handle).radioOn));
   return call.finish();
 }
 
 int32_t RFID_TurnOffRadioWhenIdle(int64_t handle, uint32_t timeout) {
   ApiCall call("RFID_TurnOffRadioWhenIdle", handle, timeout);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(),
+                          [&](sim::RadioIoSettings& kept) { kept.idleTimeoutMilliseconds = timeout; });
 }
 
 int32_t RFID_GetRadioIdleTimeout(int64_t handle, uint32_t* timeout) {
   ApiCall call("RFID_GetRadioIdleTimeout", handle, timeout);
-  call.outputs({{timeout, 4, "timeout"}});
+  call.outputs({{timeout, 4, "timeout"}}, sim::answerBytes(sim::keptRadioIo(handle).idleTimeoutMilliseconds));
   return call.finish();
 }
 
@@ -190,25 +197,30 @@ int32_t RFID_GetPowerNegotiationStatus(int64_t handle, int32_t* status) {
 
 int32_t RFID_SetPowerNegotiationState(int64_t handle, uint8_t state) {
   ApiCall call("RFID_SetPowerNegotiationState", handle, state);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(), [&](sim::RadioIoSettings& kept) { kept.powerNegotiation = state; });
 }
 
 int32_t RFID_GetPowerNegotiationState(int64_t handle, uint8_t* state) {
   ApiCall call("RFID_GetPowerNegotiationState", handle, state);
-  call.outputs({{state, 1, "state"}});
+  call.outputs({{state, 1, "state"}}, sim::answerBytes(sim::keptRadioIo(handle).powerNegotiation));
   return call.finish();
 }
 
 int32_t RFID_GetUSBOperationMode(int64_t handle, void* settings) {
   ApiCall call("RFID_GetUSBOperationMode", handle, settings);
-  call.outputs({{settings, sim::kUsbSettingsBytes, "settings"}});
+  call.outputs({{settings, sim::kUsbSettingsBytes, "settings"}}, sim::keptRadioIo(handle).usbSettings);
   return call.finish();
 }
 
+// A NULL record is refused; one that could not be read is not kept.
 int32_t RFID_SetUSBOperationMode(int64_t handle, void* settings) {
   ApiCall call("RFID_SetUSBOperationMode", handle, settings);
   call.blob("settings", settings, sim::kUsbSettingsBytes);
-  return call.finish();
+  call.require(settings);
+  const std::vector<uint8_t> sent = call.captured("settings").bytes;
+  return sim::keepRadioIo(handle, call.finish(), [&](sim::RadioIoSettings& kept) {
+    if (sent.size() == sim::kUsbSettingsBytes) kept.usbSettings = sent;
+  });
 }
 
 // GPIO and LED.
@@ -224,33 +236,39 @@ int32_t RFID_GetGPIState(int64_t handle, int32_t port, uint8_t* state, int32_t* 
   return call.finish();
 }
 
+// An output port reads back the state it was last set to (0 before that).
 int32_t RFID_SetGPOState(int64_t handle, int32_t port, uint8_t state) {
   ApiCall call("RFID_SetGPOState", handle, port, state);
-  return call.finish();
+  return sim::keepRadioIo(handle, call.finish(), [&](sim::RadioIoSettings& kept) { kept.gpoState[port] = state; });
 }
 
 int32_t RFID_GetGPOState(int64_t handle, int32_t port, uint8_t* state) {
   ApiCall call("RFID_GetGPOState", handle, port, state);
-  call.outputs({{state, 1, "state"}});
+  call.outputs({{state, 1, "state"}}, sim::answerBytes(sim::keptRadioIo(handle).gpoAnswer(port)));
   return call.finish();
 }
 
+// The debounce pair and the LED refuse a NULL record. The getter's scripted
+// output covers its value and then the record, which is in and out.
 int32_t RFID_SetGPIDebounceTime(int64_t handle, int32_t value, void* debounce) {
   ApiCall call("RFID_SetGPIDebounceTime", handle, value, debounce);
   call.blob("debounce", debounce, sim::kDebounceBytes);
+  call.require(debounce);
   return call.finish();
 }
 
 int32_t RFID_GetGPIDebounceTime(int64_t handle, uint32_t* value, void* debounce) {
   ApiCall call("RFID_GetGPIDebounceTime", handle, value, debounce);
   call.blob("debounce", debounce, sim::kDebounceBytes);
-  call.outputs({{value, 4, "value"}});
+  call.require(debounce);
+  call.outputs({{value, 4, "value"}, {debounce, sim::kDebounceBytes}});
   return call.finish();
 }
 
 int32_t RFID_SetUserLED(int64_t handle, void* ledInfo) {
   ApiCall call("RFID_SetUserLED", handle, ledInfo);
   call.blob("ledInfo", ledInfo, sim::kLedInfoBytes);
+  call.require(ledInfo);
   return call.finish();
 }
 

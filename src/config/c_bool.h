@@ -1,0 +1,15 @@
+// Java booleans on their way into the C API's one-byte booleans: any
+// non-zero Java value becomes exactly 1.
+#pragma once
+
+#include <jni.h>
+
+#include "jni_fields.h"
+#include "reader_api.h"
+
+inline RFID_BOOL toCBool(jboolean value) { return value != JNI_FALSE ? 1 : 0; }
+
+// The named boolean field ("Z") of object, normalised.
+inline RFID_BOOL getCBoolFromJobject(JNIEnv* env, jobject object, const char* name) {
+  return getBoolFromJobject(env, object, name) ? 1 : 0;
+}
