@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <type_traits>
 #include <vector>
 
 namespace {
@@ -351,6 +352,540 @@ TEST(ReaderApiLayout, ConfigurationRecords) {
   EXPECT_EQ(list.appList[1].autoStart, 1);
   EXPECT_EQ(list.appList[1].runStatus, 0);
   EXPECT_EQ(list.appList[1].Metadata, meta);
+}
+
+// ---------------------------------------------------------------------------
+// Fields whose signedness decides what Java sees: counts and indices that
+// the library widens or loops over are unsigned, values that reach Java
+// sign-extended are signed.
+// ---------------------------------------------------------------------------
+
+TEST(ReaderApiLayout, SessionRecordsPlaceTheirFields) {
+  uint8_t cert[1] = {0x5A};
+  auto secure = zeroed<SEC_CONNECTION_INFO>();
+  secure.secureMode = 1;
+  secure.validatePeerCert = 1;
+  secure.sizeCertBuff = 0x80000001u;
+  secure.clientCertBuff = cert;
+  secure.sizeRootCertBuff = 3;
+  secure.connStatus = -2;
+  EXPECT_EQ(get<uint8_t>(&secure, 1), 1);
+  EXPECT_EQ(get<uint32_t>(&secure, 4), 0x80000001u);
+  EXPECT_EQ(get<uint8_t*>(&secure, 8), cert);
+  EXPECT_EQ(get<uint32_t>(&secure, 48), 3u);
+  EXPECT_EQ(get<int64_t>(&secure, 64), -2);
+
+  auto connection = zeroed<CONNECTION_INFO>();
+  connection.version = 2;
+  connection.secConnInfo = &secure;
+  EXPECT_EQ(get<uint32_t>(&connection, 0), 2u);
+  EXPECT_EQ(get<SEC_CONNECTION_INFO*>(&connection, 8), &secure);
+
+  auto login = zeroed<LOGIN_INFO>();
+  login.password[259] = L'Z';
+  login.version = 1;
+  login.forceLogin = 1;
+  EXPECT_EQ(get<wchar_t>(&login, 2080 + 259 * 4), L'Z');
+  EXPECT_EQ(get<uint32_t>(&login, 3120), 1u);
+  EXPECT_EQ(get<uint8_t>(&login, 3124), 1);
+
+  SEC_LLRP_CONFIG llrpSecure = zeroed<SEC_LLRP_CONFIG>();
+  auto llrp = zeroed<LLRP_CONNECTION_CONFIG>();
+  put<uint32_t>(&llrp, 4, 0xFFFFFFFFu);
+  put<wchar_t>(&llrp, 8, L'h');
+  put<SEC_LLRP_CONFIG*>(&llrp, 1048, &llrpSecure);
+  EXPECT_EQ(llrp.port, 0xFFFFFFFFu);
+  EXPECT_EQ(llrp.hostServerIP[0], L'h');
+  EXPECT_EQ(llrp.pSecureModeConfig, &llrpSecure);
+
+  auto accept = zeroed<ACCEPT_CONNECTION_INFO>();
+  accept.rfidVersion = 3;
+  EXPECT_EQ(get<uint32_t>(&accept, 4), 3u);
+  EXPECT_EQ(get<uint32_t>(&accept, 0), 0u);
+}
+
+TEST(ReaderApiLayout, EventAndErrorRecordsReadSignedWhereJavaSignExtends) {
+  auto gpi = zeroed<GPI_EVENT_DATA>();
+  put<uint16_t>(&gpi, 0, 0xFFFF);
+  put<uint8_t>(&gpi, 2, 2);
+  EXPECT_EQ(gpi.port, -1);
+  EXPECT_EQ(gpi.eventInfo, 2);
+
+  auto antenna = zeroed<ANTENNA_EVENT_DATA>();
+  put<uint16_t>(&antenna, 0, 0x8000);
+  put<uint32_t>(&antenna, 4, 0x0001FFFF);
+  EXPECT_EQ(antenna.antennaID, -32768);
+  EXPECT_EQ(static_cast<int16_t>(antenna.antennaEvent), -1);
+
+  auto info = zeroed<EVENT_INFO_DATA>();
+  put<uint32_t>(&info, 0, 0x00028001);
+  EXPECT_EQ(static_cast<int16_t>(info.eventInfo), -32767);
+
+  auto error = zeroed<ERROR_INFO>();
+  put<uint16_t>(&error, 14, 0xFFFF);
+  put<uint32_t>(&error, 16, 0x80000000u);
+  put<wchar_t>(&error, 20, L'd');
+  put<wchar_t>(&error, 1060, L'v');
+  EXPECT_EQ(static_cast<int16_t>(error.errorTimeStamp.Milliseconds), -1);
+  EXPECT_EQ(static_cast<int32_t>(error.rfidStatusCode), INT32_MIN);
+  EXPECT_EQ(error.statusDesc[0], L'd');
+  EXPECT_EQ(error.vendorMessage[0], L'v');
+}
+
+TEST(ReaderApiLayout, AntennaListAndPatternCountsAreUnsigned) {
+  uint16_t ids[1] = {0xFFFF};
+  uint32_t qualifiers[1] = {0xFFFFFFFFu};
+  auto antennas = zeroed<ANTENNA_INFO>();
+  put<uint16_t*>(&antennas, 0, ids);
+  put<uint32_t>(&antennas, 8, 0x80000000u);
+  put<uint32_t*>(&antennas, 16, qualifiers);
+  EXPECT_EQ(antennas.antennaList[0], 65535);
+  EXPECT_EQ(static_cast<int64_t>(antennas.length), 0x80000000LL);
+  EXPECT_EQ(antennas.antennaOpList[0], 0xFFFFFFFFu);
+
+  auto pattern = zeroed<TAG_PATTERN>();
+  put<uint16_t>(&pattern, 4, 0x8000);
+  put<uint16_t>(&pattern, 16, 0xFFFF);
+  put<uint16_t>(&pattern, 32, 0x8001);
+  EXPECT_EQ(pattern.bitOffset, 0x8000);
+  // (bits + 7) >> 3 on the unsigned count: 65535 bits take 8192 bytes.
+  EXPECT_EQ((pattern.tagPatternBitCount + 7) >> 3, 8192);
+  EXPECT_EQ(pattern.tagMaskBitCount, 0x8001);
+}
+
+TEST(ReaderApiLayout, SingleAccessRecordsPlaceTheirFields) {
+  uint8_t data[2] = {1, 2};
+  auto write = zeroed<WRITE_ACCESS_PARAMS>();
+  write.memoryBank = 3;
+  write.byteOffset = 0xFFFE;
+  write.writeData = data;
+  write.writeDataLength = 0x8000;
+  write.accessPassword = 0x89ABCDEF;
+  EXPECT_EQ(get<uint16_t>(&write, 4), 0xFFFE);
+  EXPECT_EQ(get<uint8_t*>(&write, 8), data);
+  EXPECT_EQ(get<uint16_t>(&write, 16), 0x8000);
+  EXPECT_EQ(get<uint32_t>(&write, 20), 0x89ABCDEFu);
+
+  auto read = zeroed<READ_ACCESS_PARAMS>();
+  read.byteCount = 0xFFFF;
+  read.accessPassword = 0xFFFFFFFFu;
+  EXPECT_EQ(get<uint16_t>(&read, 6), 0xFFFF);
+  EXPECT_EQ(get<uint32_t>(&read, 8), 0xFFFFFFFFu);
+
+  auto lock = zeroed<LOCK_ACCESS_PARAMS>();
+  for (uint32_t i = 0; i < kLockPrivilegeCount; ++i) lock.enumPrivilege[i] = 0xFFFF - i;
+  lock.accessPassword = 7;
+  for (uint32_t i = 0; i < kLockPrivilegeCount; ++i) EXPECT_EQ(get<uint32_t>(&lock, 4 * i), 0xFFFF - i);
+  EXPECT_EQ(get<uint32_t>(&lock, 20), 7u);
+
+  auto kill = zeroed<KILL_ACCESS_PARAMS>();
+  kill.killPassword = 0xDEADBEEF;
+  EXPECT_EQ(get<uint32_t>(&kill, 0), 0xDEADBEEFu);
+
+  auto recommission = zeroed<RECOMMISSION_ACCESS_PARAMS>();
+  recommission.killPassword = 1;
+  recommission.opCode = 2;
+  EXPECT_EQ(get<uint32_t>(&recommission, 4), 2u);
+
+  auto field = zeroed<WRITE_FIELD_ACCESS_PARAMS>();
+  field.writeData = data;
+  field.writeDataLength = 4;
+  field.accessPassword = 0x01020304;
+  EXPECT_EQ(get<uint8_t*>(&field, 0), data);
+  EXPECT_EQ(get<uint16_t>(&field, 8), 4);
+  EXPECT_EQ(get<uint32_t>(&field, 12), 0x01020304u);
+}
+
+TEST(ReaderApiLayout, ChipAndGen2v2RecordsPlaceTheirFields) {
+  auto eas = zeroed<NXP_SET_EAS_PARAMS>();
+  eas.accessPassword = 0xA0B0C0D0;
+  eas.EASState = 1;
+  EXPECT_EQ(get<uint32_t>(&eas, 0), 0xA0B0C0D0u);
+  EXPECT_EQ(get<uint8_t>(&eas, 4), 1);
+  EXPECT_EQ(get<uint8_t>(&eas, 5), 0);
+
+  auto config = zeroed<NXP_CHANGE_CONFIG_PARAMS>();
+  config.ChangeConfigWord = 0x8001;
+  EXPECT_EQ(get<uint16_t>(&config, 4), 0x8001);
+
+  uint8_t message[2] = {0xAB, 0xCD};
+  auto authenticate = zeroed<AUTHENTICATE_PARAMS>();
+  authenticate.incRespLen = 1;
+  authenticate.CSI = 0xFF;
+  authenticate.length = 0xFFFF;
+  authenticate.pMessage = message;
+  authenticate.accessPassword = 9;
+  EXPECT_EQ(get<uint8_t>(&authenticate, 1), 1);
+  EXPECT_EQ(get<uint8_t>(&authenticate, 2), 0xFF);
+  // Bits to bytes on the unsigned length: 65535 bits make 8191 bytes.
+  EXPECT_EQ(authenticate.length / 8, 8191);
+  EXPECT_EQ(get<uint8_t*>(&authenticate, 8), message);
+  EXPECT_EQ(get<uint32_t>(&authenticate, 16), 9u);
+
+  auto untraceable = zeroed<UNTRACEABLE_PARAMS>();
+  untraceable.hideEPC = 1;
+  untraceable.EPCLength = 6;
+  untraceable.hideTID = 2;
+  untraceable.hideUser = 1;
+  untraceable.operatingRange = 3;
+  untraceable.accessPassword = 4;
+  EXPECT_EQ(get<uint8_t>(&untraceable, 1), 1);
+  EXPECT_EQ(get<uint8_t>(&untraceable, 2), 6);
+  EXPECT_EQ(get<uint32_t>(&untraceable, 4), 2u);
+  EXPECT_EQ(get<uint8_t>(&untraceable, 8), 1);
+  EXPECT_EQ(get<uint32_t>(&untraceable, 12), 3u);
+  EXPECT_EQ(get<uint32_t>(&untraceable, 16), 4u);
+
+  auto buffer = zeroed<READ_BUFFER_PARAMS>();
+  buffer.wordPtr = 0x8000;
+  buffer.bitCount = 0xFFFF;
+  buffer.accessPassword = 5;
+  EXPECT_EQ(get<uint16_t>(&buffer, 0), 0x8000);
+  EXPECT_EQ(get<uint16_t>(&buffer, 2), 0xFFFF);
+  EXPECT_EQ(get<uint32_t>(&buffer, 4), 5u);
+
+  auto reply = zeroed<AUTHENTICATE_READ_BUFFER_RESULT>();
+  put<uint16_t>(&reply, 0, 0x8000);
+  EXPECT_EQ(reply.lengthInBits / 8, 4096);
+}
+
+TEST(ReaderApiLayout, CapabilityTableCountsAreUnsigned) {
+  auto caps = zeroed<READER_CAPS>();
+  put<uint16_t>(&caps, 3144, 0x8000);
+  put<uint16_t>(&caps, 3432, 0x8000);
+  put<uint16_t>(&caps, 3456, 0xFFFF);
+  put<uint16_t>(&caps, 3480, 0x8001);
+  put<uint16_t>(&caps, 3496, 0xFFFE);
+  put<int16_t>(&caps, 3448, -3);
+  put<int32_t>(&caps, 3452, -4);
+  EXPECT_EQ(caps.receiveSensitivtyTable.numValues, 0x8000);
+  EXPECT_EQ(caps.rfModes.numTables, 0x8000);
+  EXPECT_EQ(caps.transmitPowerLevelTable.numValues, 0xFFFF);
+  EXPECT_EQ(caps.freqHopInfo.numTables, 0x8001);
+  EXPECT_EQ(caps.fixedFreqInfo.numFreq, 0xFFFE);
+  EXPECT_EQ(caps.countryCode, -3);
+  EXPECT_EQ(caps.enumCommunicationStandard, -4);
+
+  int16_t powers[1] = {-10};
+  uint32_t hops[1] = {0xFFFFFFFFu};
+  auto hop = zeroed<FREQ_HOP_TABLE>();
+  put<int16_t>(&hop, 0, -1);
+  put<uint16_t>(&hop, 2, 0x8000);
+  put<uint32_t*>(&hop, 8, hops);
+  EXPECT_EQ(hop.hopTableID, -1);
+  EXPECT_EQ(hop.numFreq, 0x8000);
+  EXPECT_EQ(hop.freqList[0], 0xFFFFFFFFu);
+  auto table = zeroed<UHF_RF_MODE_TABLE>();
+  put<uint16_t>(&table, 2, 0xFFFF);
+  EXPECT_EQ(table.numEntries, 0xFFFF);
+  auto power = zeroed<TRANSMIT_POWER_LEVEL_TABLE>();
+  put<int16_t*>(&power, 8, powers);
+  EXPECT_EQ(power.powerValueList[0], -10);
+  auto duty = zeroed<DUTY_CYCLE_TABLE>();
+  put<uint16_t>(&duty, 0, 0x8000);
+  EXPECT_EQ(duty.numValues, 0x8000);
+}
+
+TEST(ReaderApiLayout, AntennaRfConfigIsZeroExtendedToJava) {
+  auto rf = zeroed<ANTENNA_RF_CONFIG>();
+  put<uint16_t>(&rf, 0, 0xFFFF);
+  put<uint16_t>(&rf, 2, 0x8000);
+  put<uint16_t>(&rf, 4, 0xFFFE);
+  put<uint32_t>(&rf, 12, 0x80000000u);
+  put<uint16_t>(&rf, 16, 0xFFFF);
+  put<uint16_t>(&rf, 18, 0x8001);
+  put<int32_t>(&rf, 24, -1);
+  // What the getter hands to Java's int and long fields.
+  EXPECT_EQ(static_cast<int32_t>(rf.transmitPowerIndex), 65535);
+  EXPECT_EQ(static_cast<int32_t>(rf.receiveSensitivityIndex), 32768);
+  EXPECT_EQ(static_cast<int32_t>(rf.transmitFrequencyIndex), 65534);
+  EXPECT_EQ(static_cast<int64_t>(rf.tari), 0x80000000LL);
+  EXPECT_EQ(static_cast<int32_t>(rf.transmitPort), 65535);
+  EXPECT_EQ(static_cast<int32_t>(rf.receivePort), 32769);
+  EXPECT_EQ(rf.antennaStopTrigger.stopTriggerType, -1);
+}
+
+TEST(ReaderApiLayout, RadioGpioAndInfoRecords) {
+  auto usb = zeroed<USB_OPERATION_MODE_SETTINGS>();
+  put<int32_t>(&usb, 0, 0x00018000);
+  put<uint8_t>(&usb, 4, 1);
+  EXPECT_EQ(static_cast<int16_t>(usb.mode), -32768);
+  EXPECT_EQ(usb.allowLLRPConnectionOverride, 1);
+
+  auto led = zeroed<LED_INFO>();
+  led.ledColor = 2;
+  led.duration = -1;
+  led.blink = 1;
+  EXPECT_EQ(get<int32_t>(&led, 0), 2);
+  EXPECT_EQ(get<int32_t>(&led, 4), -1);
+  EXPECT_EQ(get<uint8_t>(&led, 8), 1);
+
+  auto debounce = zeroed<GPI_DEBOUNCE_RECORD>();
+  debounce.values[3] = -7;
+  EXPECT_EQ(get<int32_t>(&debounce, 12), -7);
+
+  wchar_t zone[] = L"UTC";
+  wchar_t* zones[1] = {zone};
+  auto zoneList = zeroed<TIME_ZONE_LIST>();
+  put<uint16_t>(&zoneList, 0, 0x8000);
+  put<wchar_t**>(&zoneList, 8, zones);
+  put<int16_t>(&zoneList, 16, -1);
+  EXPECT_EQ(zoneList.numTimeZones, 0x8000);
+  EXPECT_EQ(zoneList.timeZoneNames[0], zone);
+  EXPECT_EQ(zoneList.activeTimeZoneIndex, -1);
+
+  auto profiles = zeroed<PROFILE_LIST>();
+  put<uint16_t>(&profiles, 0, 0xFFFF);
+  put<wchar_t**>(&profiles, 8, zones);
+  put<int16_t>(&profiles, 16, -2);
+  EXPECT_EQ(profiles.numProfiles, 0xFFFF);
+  EXPECT_EQ(profiles.profileNames[0], zone);
+  EXPECT_EQ(profiles.activeProfileIndex, -2);
+
+  auto reader = zeroed<READER_INFO>();
+  put<wchar_t>(&reader, 3120, L'c');
+  EXPECT_EQ(reader.contact[0], L'c');
+
+  auto update = zeroed<UPDATE_STATUS>();
+  put<int32_t>(&update, 0, -1);
+  put<wchar_t>(&update, 4, L'u');
+  EXPECT_EQ(update.percentage, -1);
+  EXPECT_EQ(update.updateInfo[0], L'u');
+
+  auto system = zeroed<SYSTEM_INFO>();
+  put<uint8_t>(&system, 5225, 0x80);
+  put<int32_t>(&system, 5220, -5);
+  EXPECT_EQ(system.cpuUsageForSystemProcesses, -128);
+  EXPECT_EQ(system.ramTotal, -5);
+}
+
+// ---------------------------------------------------------------------------
+// The C functions as the reader library defines them. Both sides of every
+// call are compiled separately, so nothing else would notice a parameter of
+// the wrong width or signedness here: the reader handle is a Java int
+// sign-extended to 64 bits, event handles are 64-bit, antenna IDs unsigned
+// 16-bit, C booleans one byte, and every tag-access call ends in a reserved
+// pointer.
+// ---------------------------------------------------------------------------
+
+using Status = int32_t;
+using Handle = int64_t;
+using Event = int64_t;
+using Bool = uint8_t;
+using AntennaId = uint16_t;
+using TagId = const uint8_t*;
+using Text = const wchar_t*;
+
+template <class Expected, class Declared>
+void expectPrototype() {
+  ::testing::StaticAssertTypeEq<Expected, Declared>();
+}
+
+TEST(ReaderApiPrototypes, ConnectionLoginAndLlrp) {
+  expectPrototype<Status(Handle*, Text, uint32_t, uint32_t, CONNECTION_INFO*),
+                  decltype(RFID_ConnectW)>();
+  expectPrototype<Status(Handle), decltype(RFID_Reconnect)>();
+  expectPrototype<Status(Handle), decltype(RFID_Disconnect)>();
+  expectPrototype<Status(Handle*, LOGIN_INFO*, uint32_t, Bool, void*), decltype(RFID_LoginW)>();
+  expectPrototype<Status(Handle), decltype(RFID_Logout)>();
+  expectPrototype<Status(Handle), decltype(RFID_Restart)>();
+  expectPrototype<Status(Handle, LLRP_CONNECTION_CONFIG*), decltype(RFID_GetLLRPConnectionConfigW)>();
+  expectPrototype<Status(Handle, LLRP_CONNECTION_CONFIG*), decltype(RFID_SetLLRPConnectionConfigW)>();
+  expectPrototype<Status(Handle, LLRP_INITIATE_SCRATCH*),
+                  decltype(RFID_InitiateLLRPConnectionFromReader)>();
+  expectPrototype<Status(Handle), decltype(RFID_DisconnectLLRPConnectionFromReader)>();
+  expectPrototype<Status(Handle*, int64_t, ACCEPT_CONNECTION_INFO*, ACCEPT_CONNECTION_SCRATCH*),
+                  decltype(RFID_AcceptConnection)>();
+}
+
+TEST(ReaderApiPrototypes, EventsErrorsVersionAndTrace) {
+  expectPrototype<Event(void*, int32_t, int32_t, void*), decltype(rfidUtils_CreateEvent)>();
+  expectPrototype<int32_t(Event), decltype(rfidUtils_SetEvent)>();
+  expectPrototype<int32_t(Event), decltype(rfidUtils_ResetEvent)>();
+  expectPrototype<int32_t(Event), decltype(rfidUtils_CloseHandle)>();
+  expectPrototype<int32_t(Event, int64_t), decltype(rfidUtils_WaitForSingleObject)>();
+  expectPrototype<int32_t(int64_t, const Event*, Bool, int64_t),
+                  decltype(rfidUtils_WaitForMultipleObjects)>();
+  expectPrototype<Status(Handle, uint32_t, Event), decltype(RFID_RegisterEventNotification)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_DeregisterEventNotification)>();
+  expectPrototype<Status(Handle, uint32_t, void*), decltype(RFID_GetEventData)>();
+  expectPrototype<Status(Handle, ERROR_INFO*), decltype(RFID_GetLastErrorInfoW)>();
+  expectPrototype<Text(Status), decltype(RFID_GetErrorDescriptionW)>();
+  expectPrototype<Status(VERSION_INFO*), decltype(RFID_GetDllVersionInfoW)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_SetTraceLevel)>();
+}
+
+TEST(ReaderApiPrototypes, TagsInventoryAndReaderSettings) {
+  expectPrototype<TAG_DATA*(Handle), decltype(RFID_AllocateTag)>();
+  expectPrototype<Status(Handle, TAG_DATA*), decltype(RFID_DeallocateTag)>();
+  expectPrototype<Status(Handle, TAG_DATA*), decltype(RFID_GetReadTag)>();
+  expectPrototype<Status(Handle, uint32_t, TAG_DATA**, uint32_t*), decltype(rfid_GetReadTags)>();
+  expectPrototype<Status(Handle, TAG_DATA**, uint32_t), decltype(rfid_DeallocateTags)>();
+  expectPrototype<Status(Handle, POST_FILTER*, ANTENNA_INFO*, TRIGGER_INFO*, void*),
+                  decltype(RFID_PerformInventory)>();
+  expectPrototype<Status(Handle), decltype(RFID_StopInventory)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_PurgeTags)>();
+  expectPrototype<Status(Handle, TagId, uint32_t, ANTENNA_INFO*, void*, void*),
+                  decltype(RFID_PerformTagLocationing)>();
+  expectPrototype<Status(Handle), decltype(RFID_StopTagLocationing)>();
+  expectPrototype<Status(Handle, ANTENNA_INFO*, TRIGGER_INFO*, void*),
+                  decltype(RFID_PerformNXPEASScan)>();
+  expectPrototype<Status(Handle), decltype(RFID_StopNXPEASScan)>();
+  expectPrototype<Status(Handle, AntennaId, PRE_FILTER*, uint32_t*), decltype(RFID_AddPreFilter)>();
+  expectPrototype<Status(Handle, AntennaId, uint32_t), decltype(RFID_DeletePreFilter)>();
+  expectPrototype<Status(Handle, TAG_STORAGE_SETTINGS*), decltype(RFID_GetTagStorageSettings)>();
+  expectPrototype<Status(Handle, TAG_STORAGE_SETTINGS*), decltype(RFID_SetTagStorageSettings)>();
+  expectPrototype<Status(Handle, AntennaId, SINGULATION_CONTROL*),
+                  decltype(RFID_GetSingulationControl)>();
+  expectPrototype<Status(Handle, AntennaId, SINGULATION_CONTROL*),
+                  decltype(RFID_SetSingulationControl)>();
+}
+
+// Operations with a result tag: handle, tag ID, length, parameters, filter,
+// antennas, tag record, reserved.
+template <class Params>
+using WithResultTag = Status(Handle, TagId, uint32_t, Params*, ACCESS_FILTER*, ANTENNA_INFO*,
+                             TAG_DATA*, void*);
+// Operations without one: the same, less the tag record.
+template <class Params>
+using WithoutResultTag = Status(Handle, TagId, uint32_t, Params*, ACCESS_FILTER*, ANTENNA_INFO*,
+                                void*);
+// Writes of a single tag field take no filter.
+using FieldWrite = Status(Handle, TagId, uint32_t, WRITE_FIELD_ACCESS_PARAMS*, ANTENNA_INFO*, void*);
+
+TEST(ReaderApiPrototypes, TagAccessOperations) {
+  expectPrototype<WithResultTag<READ_ACCESS_PARAMS>, decltype(RFID_Read)>();
+  expectPrototype<WithoutResultTag<WRITE_ACCESS_PARAMS>, decltype(RFID_Write)>();
+  expectPrototype<WithoutResultTag<WRITE_ACCESS_PARAMS>, decltype(RFID_BlockWrite)>();
+  expectPrototype<WithoutResultTag<BLOCK_ERASE_ACCESS_PARAMS>, decltype(RFID_BlockErase)>();
+  expectPrototype<WithoutResultTag<LOCK_ACCESS_PARAMS>, decltype(RFID_Lock)>();
+  expectPrototype<WithoutResultTag<KILL_ACCESS_PARAMS>, decltype(RFID_Kill)>();
+  expectPrototype<WithResultTag<BLOCK_PERMALOCK_ACCESS_PARAMS>, decltype(RFID_BlockPermalock)>();
+  expectPrototype<WithoutResultTag<RECOMMISSION_ACCESS_PARAMS>, decltype(RFID_Recommission)>();
+  expectPrototype<FieldWrite, decltype(RFID_WriteAccessPassword)>();
+  expectPrototype<FieldWrite, decltype(RFID_WriteKillPassword)>();
+  expectPrototype<FieldWrite, decltype(RFID_WriteTagID)>();
+
+  expectPrototype<WithoutResultTag<NXP_READ_PROTECT_PARAMS>, decltype(RFID_NXPReadProtect)>();
+  expectPrototype<Status(Handle, NXP_RESET_READ_PROTECT_PARAMS*, ANTENNA_INFO*, void*),
+                  decltype(RFID_NXPResetReadProtect)>();
+  expectPrototype<WithoutResultTag<NXP_SET_EAS_PARAMS>, decltype(RFID_NXPSetEAS)>();
+  expectPrototype<WithResultTag<NXP_CHANGE_CONFIG_PARAMS>, decltype(RFID_NXPChangeConfig)>();
+  expectPrototype<WithoutResultTag<IMPINJ_QT_WRITE_PARAMS>, decltype(RFID_ImpinjQTWrite)>();
+  expectPrototype<WithResultTag<IMPINJ_QT_READ_PARAMS>, decltype(RFID_ImpinjQTRead)>();
+
+  expectPrototype<WithResultTag<AUTHENTICATE_PARAMS>, decltype(RFID_Authenticate)>();
+  expectPrototype<WithResultTag<UNTRACEABLE_PARAMS>, decltype(RFID_Untraceable)>();
+  expectPrototype<WithResultTag<READ_BUFFER_PARAMS>, decltype(RFID_ReadBuffer)>();
+  expectPrototype<WithResultTag<CRYPTO_PARAMS>, decltype(RFID_Crypto)>();
+
+  expectPrototype<Status(Handle), decltype(RFID_InitializeAccessSequence)>();
+  expectPrototype<Status(Handle, ACCESS_OPERATION*, uint32_t*),
+                  decltype(RFID_AddOperationToAccessSequence)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_DeleteOperationFromAccessSequence)>();
+  expectPrototype<Status(Handle, ACCESS_FILTER*, ANTENNA_INFO*, TRIGGER_INFO*, void*),
+                  decltype(RFID_PerformAccessSequence)>();
+  expectPrototype<Status(Handle), decltype(RFID_StopAccessSequence)>();
+  expectPrototype<Status(Handle, uint32_t*, uint32_t*), decltype(RFID_GetLastAccessResult)>();
+  expectPrototype<Status(Handle), decltype(RFID_DeinitializeAccessSequence)>();
+}
+
+TEST(ReaderApiPrototypes, CapabilitiesAntennasAndRadio) {
+  expectPrototype<Status(Handle, READER_CAPS*), decltype(RFID_GetReaderCapsW)>();
+  expectPrototype<Status(Handle, AntennaId, uint16_t, uint16_t, uint16_t),
+                  decltype(RFID_SetAntennaConfig)>();
+  expectPrototype<Status(Handle, AntennaId, uint16_t*, uint16_t*, uint16_t*),
+                  decltype(RFID_GetAntennaConfig)>();
+  expectPrototype<Status(Handle, AntennaId, ANTENNA_RF_CONFIG*), decltype(RFID_GetAntennaRfConfig)>();
+  expectPrototype<Status(Handle, AntennaId, ANTENNA_RF_CONFIG*), decltype(RFID_SetAntennaRfConfig)>();
+  expectPrototype<Status(Handle, int16_t, CABLE_LOSS_COMPENSATION**),
+                  decltype(RFID_SetCableLossCompensation)>();
+  expectPrototype<Status(Handle, CABLE_LOSS_COMPENSATION*),
+                  decltype(RFID_GetCableLossCompensation)>();
+  expectPrototype<Status(Handle, AntennaId, Bool*, int32_t*),
+                  decltype(RFID_GetPhysicalAntennaProperties)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_SetAntennaMode)>();
+  expectPrototype<Status(Handle, uint32_t*), decltype(RFID_GetAntennaMode)>();
+  expectPrototype<Status(Handle, AntennaId, Bool*), decltype(RFID_GetReadPointStatus)>();
+  expectPrototype<Status(Handle, AntennaId, Bool), decltype(RFID_EnableReadPoint)>();
+
+  expectPrototype<Status(Handle, AntennaId, uint32_t, uint32_t), decltype(RFID_SetRFMode)>();
+  expectPrototype<Status(Handle, AntennaId, uint32_t*, uint32_t*), decltype(RFID_GetRFMode)>();
+  expectPrototype<Status(Handle, uint16_t, DUTY_CYCLE_SCRATCH*), decltype(RFID_SetDutyCycle)>();
+  expectPrototype<Status(Handle, uint16_t*, DUTY_CYCLE_SCRATCH*), decltype(RFID_GetDutyCycle)>();
+  expectPrototype<Status(Handle, Bool), decltype(RFID_SetRadioPowerState)>();
+  expectPrototype<Status(Handle, Bool*), decltype(RFID_GetRadioPowerState)>();
+  expectPrototype<Status(Handle, uint32_t), decltype(RFID_TurnOffRadioWhenIdle)>();
+  expectPrototype<Status(Handle, uint32_t*), decltype(RFID_GetRadioIdleTimeout)>();
+  expectPrototype<Status(Handle, uint32_t*), decltype(RFID_GetPowerNegotiationStatus)>();
+  expectPrototype<Status(Handle, Bool), decltype(RFID_SetPowerNegotiationState)>();
+  expectPrototype<Status(Handle, Bool*), decltype(RFID_GetPowerNegotiationState)>();
+  expectPrototype<Status(Handle, USB_OPERATION_MODE_SETTINGS*), decltype(RFID_GetUSBOperationMode)>();
+  expectPrototype<Status(Handle, USB_OPERATION_MODE_SETTINGS*), decltype(RFID_SetUSBOperationMode)>();
+}
+
+TEST(ReaderApiPrototypes, GpioInformationAndManagement) {
+  expectPrototype<Status(Handle, int32_t, Bool), decltype(RFID_EnableGPIPort)>();
+  expectPrototype<Status(Handle, int32_t, Bool*, int32_t*), decltype(RFID_GetGPIState)>();
+  expectPrototype<Status(Handle, int32_t, Bool), decltype(RFID_SetGPOState)>();
+  expectPrototype<Status(Handle, int32_t, Bool*), decltype(RFID_GetGPOState)>();
+  expectPrototype<Status(Handle, int32_t, GPI_DEBOUNCE_RECORD*), decltype(RFID_SetGPIDebounceTime)>();
+  expectPrototype<Status(Handle, int32_t*, GPI_DEBOUNCE_RECORD*), decltype(RFID_GetGPIDebounceTime)>();
+  expectPrototype<Status(Handle, LED_INFO*), decltype(RFID_SetUserLED)>();
+
+  expectPrototype<Status(Handle, SYSTEM_INFO*), decltype(RFID_GetSystemInfoW)>();
+  expectPrototype<Status(Handle, READER_INFO*), decltype(RFID_GetReaderInfoW)>();
+  expectPrototype<Status(Handle, READER_INFO*), decltype(RFID_SetReaderInfoW)>();
+  expectPrototype<Status(Handle, SYSTEMTIME*), decltype(RFID_GetLocalTime)>();
+  expectPrototype<Status(Handle, SYSTEMTIME*), decltype(RFID_SetLocalTime)>();
+  expectPrototype<Status(Handle, TIME_ZONE_LIST*), decltype(RFID_GetTimeZoneListW)>();
+  expectPrototype<Status(Handle, uint16_t), decltype(RFID_SetTimeZone)>();
+  expectPrototype<Status(Handle, AntennaId, READER_STATS*), decltype(RFID_GetReaderStats)>();
+  expectPrototype<Status(Handle), decltype(RFID_ClearReaderStats)>();
+  expectPrototype<Status(Handle, uint32_t, uint32_t*, void*), decltype(RFID_GetHealthStatus)>();
+
+  expectPrototype<Status(Handle, PROFILE_LIST*), decltype(RFID_GetProfileListW)>();
+  expectPrototype<Status(Handle, Text, Text), decltype(RFID_ImportProfileFromReaderW)>();
+  expectPrototype<Status(Handle, Text, Text, Bool), decltype(RFID_ExportProfileToReaderW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_DeleteProfileW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_SetActiveProfileW)>();
+  expectPrototype<Status(Handle, UPDATE_INFO*), decltype(RFID_UpdateSoftwareW)>();
+  expectPrototype<Status(Handle, UPDATE_STATUS*), decltype(RFID_GetUpdateStatusW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_UpdateRadioConfigW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_UpdateRadioFirmwareW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_InstallUserAppW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_UninstallUserAppW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_StartUserAppW)>();
+  expectPrototype<Status(Handle, Text), decltype(RFID_StopUserAppW)>();
+  expectPrototype<Status(Handle, Text, Bool), decltype(RFID_SetUserAppAutoStartW)>();
+  expectPrototype<Status(Handle, USER_APP_LIST*), decltype(RFID_ListUserAppsW)>();
+  expectPrototype<Status(Handle, Text, Bool*), decltype(RFID_GetUserAppRunStatusW)>();
+  expectPrototype<Status(Handle, void*), decltype(RFID_SaveLlrpConfig)>();
+  expectPrototype<Status(Handle, Bool*), decltype(RFID_GetSaveLlrpConfigStatus)>();
+  expectPrototype<Status(Handle), decltype(RFID_ResetConfigToFactoryDefaults)>();
+  expectPrototype<Status(void*, unsigned int*), decltype(rfid_GetNumInstalledApps)>();
+}
+
+}  // namespace
+
+// The reader library exports its installed-apps count with C++ linkage, so
+// the declaration we call through must produce exactly this symbol. This
+// test binary does not link the reader library: it defines the symbol under
+// its mangled name here, and the call below only links if the declaration
+// in the header names the same one.
+extern "C" int32_t _Z24rfid_GetNumInstalledAppsPvPj(void* handle, unsigned int* count) {
+  *count = static_cast<unsigned int>(reinterpret_cast<uintptr_t>(handle)) ^ 0xA5A5u;
+  return 7;
+}
+
+namespace {
+
+TEST(ReaderApiLinkage, NumInstalledAppsIsImportedUnderItsMangledName) {
+  unsigned int count = 0;
+  // A handle of -2 goes in sign-extended to pointer width.
+  void* handle = reinterpret_cast<void*>(static_cast<intptr_t>(-2));
+  EXPECT_EQ(rfid_GetNumInstalledApps(handle, &count), 7);
+  EXPECT_EQ(count, 0xFFFFFFFEu ^ 0xA5A5u);
 }
 
 }  // namespace
