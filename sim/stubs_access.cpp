@@ -3,7 +3,9 @@
 // parameter record with the buffer it points to, filter and antennas) and
 // writes a result tag only when a test scripted one.
 #include <cstdint>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "api_call.h"
 #include "capture_read.h"
@@ -79,11 +81,20 @@ ParamsLayout operationLayout(uint32_t opCode) {
   }
 }
 
+// An operation that is NULL or cannot be read, or whose parameter record
+// cannot be read, is refused with kInvalidParam.
 void captureOperation(ApiCall& call, const void* operation) {
   call.blob("operation", operation, kAccessOperationBytes);
+  call.require(operation);
   const Blob& record = call.captured("operation");
+  if (!record.present || record.faulted) {
+    call.require(nullptr);
+    return;
+  }
   ParamsLayout layout = operationLayout(fieldAt<uint32_t>(record, 0));
-  if (layout.bytes > 0) captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  if (layout.bytes == 0) return;
+  captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  if (call.captured("operation.params").faulted) call.require(nullptr);
 }
 
 int32_t answerWithTag(ApiCall& call, void* tag) {
@@ -91,21 +102,33 @@ int32_t answerWithTag(ApiCall& call, void* tag) {
   return call.finish();
 }
 
-// Indices of the operations added to a reader's access sequence.
+// The operations of a reader's access sequence, by the index each was
+// given when it was added; indices are not reused until the sequence is
+// initialised or discarded.
 struct AccessSequence {
-  uint32_t added = 0;
+  uint32_t next = 0;
+  std::set<uint32_t> operations;
 };
 
 std::vector<uint8_t> nextOperationIndex(int64_t handle) {
   AccessSequence sequence;
   SessionStore<AccessSequence>::instance().get(handle, &sequence);
   std::vector<uint8_t> index;
-  putField(&index, 0, sequence.added);
+  putField(&index, 0, sequence.next);
   return index;
 }
 
 void countOperation(int64_t handle) {
-  SessionStore<AccessSequence>::instance().update(handle, [](AccessSequence& s) { ++s.added; });
+  SessionStore<AccessSequence>::instance().update(handle,
+                                                  [](AccessSequence& s) { s.operations.insert(s.next++); });
+}
+
+// False when the sequence holds no operation of that index.
+bool removeOperation(int64_t handle, uint32_t index) {
+  bool removed = false;
+  SessionStore<AccessSequence>::instance().update(handle,
+                                                  [&](AccessSequence& s) { removed = s.operations.erase(index) > 0; });
+  return removed;
 }
 
 // Initialising or discarding a sequence starts its indices over.
@@ -349,9 +372,12 @@ int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint3
   return status;
 }
 
+// An index the sequence does not hold answers kNotFound.
 int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
   ApiCall call("RFID_DeleteOperationFromAccessSequence", handle, index);
-  return call.finish();
+  int32_t status = call.finish();
+  if (status == sim::kSuccess && !sim::removeOperation(handle, index)) return sim::kNotFound;
+  return status;
 }
 
 int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, void* trigger, void* reserved) {
