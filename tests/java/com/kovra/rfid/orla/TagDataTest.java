@@ -9,6 +9,7 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
+import java.lang.reflect.Field;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.CsvSource;
@@ -36,6 +37,25 @@ class TagDataTest extends NativeTest {
                     : width == 2 ? Bytes.u16(b, off) : Bytes.u8(b, off);
         }
         return values;
+    }
+
+    /**
+     * Stores a raw byte into a boolean field of object, as native code can leave it; Java code itself only
+     * ever stores 0 or 1 there.
+     */
+    static void rawBoolean(Object object, String field, int value) {
+        try {
+            Class<?> unsafeClass = Class.forName("sun.misc.Unsafe");
+            Field theUnsafe = unsafeClass.getDeclaredField("theUnsafe");
+            theUnsafe.setAccessible(true);
+            Object unsafe = theUnsafe.get(null);
+            long offset = (long) unsafeClass.getMethod("objectFieldOffset", Field.class)
+                    .invoke(unsafe, object.getClass().getField(field));
+            unsafeClass.getMethod("putByte", Object.class, long.class, byte.class)
+                    .invoke(unsafe, object, offset, (byte) value);
+        } catch (ReflectiveOperationException e) {
+            throw new AssertionError(e);
+        }
     }
 
     /** A calendar time at off whose members are first, first + 1, ... first + 7. */

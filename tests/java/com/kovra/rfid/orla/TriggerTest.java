@@ -59,7 +59,7 @@ class TriggerTest extends NativeTest {
         v.periodic.periodMilliseconds = 0x89AB_CDEF;
         v.periodic.startTime = time(0xFFF8);
         v.gpi.portNumber = (short) 0x8001;
-        v.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(v.gpi, "eventInfo", 2);
         v.gpi.timeoutMilliseconds = -1;
         v.handheld.handheldEvent = HANDHELD_TRIGGER_EVENT_TYPE.HANDHELD_TRIGGER_PRESSED;
         v.handheld.timeoutMilliseconds = 500;
@@ -104,7 +104,7 @@ class TriggerTest extends NativeTest {
         v.duration = -2;
         v.gpi = new GPI_TRIGGER();
         v.gpi.portNumber = 3;
-        v.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(v.gpi, "eventInfo", 0x80);
         v.gpi.timeoutMilliseconds = 0x1234_5678;
         v.tagObservation = withTimeout(0xFFFF, 700);
         v.numAttempts = withTimeout(4, 900);
@@ -163,7 +163,7 @@ class TriggerTest extends NativeTest {
         starts[1] = new START_TRIGGER();
         starts[1].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_GPI;
         starts[1].value.gpi.portNumber = 2;
-        starts[1].value.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(starts[1].value.gpi, "eventInfo", 2);
         starts[1].value.gpi.timeoutMilliseconds = 99;
         starts[3] = new START_TRIGGER();
         starts[3].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
