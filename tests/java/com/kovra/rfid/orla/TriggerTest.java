@@ -191,6 +191,32 @@ class TriggerTest extends NativeTest {
     }
 
     @Test
+    void missingTypesAndStopVariantsLeaveTheirBytesAlone() {
+        TRIGGER_INFO t = new TRIGGER_INFO();
+        t.stopTrigger.type = STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_GPI_WITH_TIMEOUT;
+        assertEquals(2, fields(record(t), 24, 4)[0], "a stop variant that is null is not read");
+
+        START_TRIGGER untypedStart = new START_TRIGGER();
+        untypedStart.type = null;
+        untypedStart.value.distance.value = 99;
+        t.extraTriggers.startTrigger[0] = untypedStart;
+        STOP_TRIGGER[] stops = t.extraTriggers.stopTrigger;
+        STOP_TRIGGER_TYPE[] types = {STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_GPI_WITH_TIMEOUT,
+            STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_HANDHELD_WITH_TIMEOUT, STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_TIMELAPSE,
+            STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_N_ATTEMPTS_WITH_TIMEOUT, null};
+        for (int i = 0; i < types.length; i++) {
+            stops[i] = new STOP_TRIGGER();
+            stops[i].type = types[i];
+            stops[i].value.duration = 77;
+        }
+        byte[] x = inventory(t).blob("triggerInfo.extraTriggers");
+        assertArrayEquals(new byte[168], Arrays.copyOf(x, 168), "an untyped start entry stays zero, value unread");
+        assertArrayEquals(new long[] {2, 0, 5, 0, 6, 0, 4, 0, 0, 0},
+                fields(x, 168, 4, 172, 8, 180, 4, 184, 8, 192, 4, 196, 8, 204, 4, 208, 8, 216, 4, 220, 8),
+                "null variants keep only the type; a null type keeps 0 and its duration is not read");
+    }
+
+    @Test
     void extraTagObservationIsFilledOnlyAfterANumAttemptsObject() {
         TRIGGER_INFO t = new TRIGGER_INFO();
         STOP_TRIGGER[] stops = t.extraTriggers.stopTrigger;
