@@ -117,7 +117,9 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_rfidUtils_1WaitForSi
 }
 
 // The wait gets a copy of the first count handles; a null array with a
-// positive count is a fault of the Java side.
+// positive count is a fault of the Java side. A count of 0 or less gets an
+// empty copy (a guard: a negative array size would abort the process) and
+// reaches the C API as it stands.
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_rfidUtils_1WaitForMultipleObjects(
     JNIEnv* env, jclass, jint count, jlongArray eventHandles, jboolean waitAll, jint timeoutMilliseconds) {
   jlong* pinned = nullptr;

@@ -14,14 +14,11 @@ constexpr const char* kTagPatternSignature = "Lcom/kovra/rfid/orla/TAG_PATTERN;"
 constexpr const char* kMatchPatternSignature = "Lcom/kovra/rfid/orla/FILTER_MATCH_PATTERN;";
 constexpr const char* kRssiRangeFilterSignature = "Lcom/kovra/rfid/orla/RSSI_RANGE_FILTER;";
 
-// ceil(bitCount / 8) on the unsigned 16-bit count.
-size_t bytesForBits(uint16_t bitCount) { return (static_cast<size_t>(bitCount) + 7) >> 3; }
-
 // The bytes of a mask or pattern, or NULL for a bit count of 0. The Java
 // array must hold at least that many bytes.
 uint8_t* newPatternBytes(JNIEnv* env, jobject pattern, const char* arrayField, uint16_t bitCount) {
   if (bitCount == 0) return nullptr;
-  const size_t count = bytesForBits(bitCount);
+  const size_t count = patternByteCount(bitCount);
   auto* bytes = new uint8_t[count];
   getByteArrayInJobject(env, pattern, arrayField, bytes, static_cast<int>(count));
   return bytes;

@@ -9,6 +9,10 @@
 
 #include "reader_api.h"
 
+// Bytes that hold a tag pattern or mask of bitCount bits: ceil(bitCount / 8),
+// on the unsigned 16-bit count.
+inline size_t patternByteCount(uint16_t bitCount) { return (static_cast<size_t>(bitCount) + 7) >> 3; }
+
 // Fills an ANTENNA_INFO whose two list pointers already lead to caller
 // arrays large enough for the Java "length": the Java arrays' own lengths
 // are never consulted. A null "antennaOpList" sets antennaOpList to NULL.

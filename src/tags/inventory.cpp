@@ -28,10 +28,12 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1PerformInvento
   // The trigger record is prepared on every call, trigger object or not. Its
   // two start time blocks, like the extra trigger block of the conversion,
   // are never freed here: the reader may still use them after the call.
+  auto* startTime = new SYSTEMTIME();
+  auto* timeOfDay = new TIMEOFDAY();
   TRIGGER_INFO trigger;
   TAG_EVENT_REPORT_INFO tagEvents;
   REPORT_TRIGGERS reportTriggers = {};
-  presetTriggerInfo(&trigger, new SYSTEMTIME(), new TIMEOFDAY(), &tagEvents, &reportTriggers);
+  presetTriggerInfo(&trigger, startTime, timeOfDay, &tagEvents, &reportTriggers);
 
   POST_FILTER filter;
   TAG_PATTERN patternA;

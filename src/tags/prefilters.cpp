@@ -8,6 +8,7 @@
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "tags/enum_field.h"
+#include "tags/filters.h"
 #include "reader_api.h"
 
 namespace {
@@ -31,7 +32,7 @@ void fillFilterAction(JNIEnv* env, jobject params, PRE_FILTER* record) {
 // none) are allocated here and handed to the caller.
 void fillPreFilter(JNIEnv* env, jobject preFilter, PRE_FILTER* record) {
   record->tagPatternBitCount = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "tagPatternBitCount"));
-  const size_t patternBytes = (static_cast<size_t>(record->tagPatternBitCount) + 7) >> 3;
+  const size_t patternBytes = patternByteCount(record->tagPatternBitCount);
   record->tagPattern = new uint8_t[patternBytes];
   getByteArrayInJobject(env, preFilter, "tagPattern", record->tagPattern, static_cast<int>(patternBytes));
   record->bitOffset = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "bitOffset"));
@@ -51,8 +52,6 @@ extern "C" {
 // array, not on the filter object, and a null array sends a NULL filter
 // (such an array is neither pinned nor released). The index reaches Java
 // only on success; the array is released with mode 0 whatever the status.
-// The pattern bytes are not freed after the call: each added pre-filter
-// leaves its pattern buffer allocated.
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1AddPreFilter(JNIEnv* env, jclass, jint readerHandle,
                                                                               jint antennaID, jobject preFilter,
                                                                               jintArray filterIndex) {
@@ -66,6 +65,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1AddPreFilter(J
                                                filterIndex != nullptr ? &record : nullptr, &index);
   if (status == 0 && indexOut != nullptr) indexOut[0] = static_cast<jint>(index);
   if (indexOut != nullptr) env->ReleaseIntArrayElements(filterIndex, indexOut, 0);
+  // record.tagPattern is not freed: each added pre-filter leaves its pattern bytes allocated.
   return status;
 }
 

@@ -143,10 +143,13 @@ class ConnectionTest extends NativeTest {
         assertArrayEquals(new byte[] {(byte) 0x80, 0, (byte) 0xFF, 1},
                 captured("connInfo.secConnInfo.rootCertBuff"));
 
-        ORLANatives.RFID_Connect(new long[1], "secure", 0, 0, info(secure(true, true)));
+        SEC_CONNECTION_INFO raw = secure(true, true);
+        TagDataTest.rawBoolean(raw, "secureMode", 2);
+        TagDataTest.rawBoolean(raw, "validatePeerCert", 0x40);
+        ORLANatives.RFID_Connect(new long[1], "secure", 0, 0, info(raw));
         sec = captured("connInfo.secConnInfo");
-        assertEquals(1, Bytes.u8(sec, 0));
-        assertEquals(1, Bytes.u8(sec, 1), "a true flag is stored as 1");
+        assertEquals(1, Bytes.u8(sec, 0), "any non-zero flag counts as set and is stored as 1");
+        assertEquals(1, Bytes.u8(sec, 1));
     }
 
     @Test

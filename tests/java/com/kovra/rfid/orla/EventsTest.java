@@ -100,6 +100,21 @@ class EventsTest extends NativeTest {
                 new Bytes.Builder(16).s64(0, Long.MAX_VALUE)).alarmCode);
     }
 
+    @Test
+    void stateByteAndEmptyTextReachJavaAsTheyStand() {
+        int r = connect();
+        // The virtual machine keeps bit 0 of a boolean set through JNI: the byte 2 passed as it stands reads
+        // false, where a byte normalised to 1 would read true.
+        assertFalse(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 2)).eventInfo);
+        assertTrue(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 3)).eventInfo);
+
+        SimControl.setOutput("RFID_GetEventData", new Bytes.Builder(1088).u32(0, 1).build());
+        EVENT_DATA data = new EVENT_DATA();
+        data.exceptionInfo = "earlier";
+        assertEquals(0, ORLANatives.RFID_GetEventData(r, RFID_EVENT_TYPE.READER_EXCEPTION_EVENT, data));
+        assertEquals("", data.exceptionInfo, "an empty text is an empty string, not null");
+    }
+
     @ParameterizedTest
     @EnumSource(names = {"TAG_READ_EVENT", "BUFFER_FULL_WARNING_EVENT", "INVENTORY_START_EVENT",
         "INVENTORY_STOP_EVENT", "ACCESS_START_EVENT", "ACCESS_STOP_EVENT", "BUFFER_FULL_EVENT", "DEBUG_INFO_EVENT",

@@ -7,6 +7,7 @@ import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
 
 import com.kovra.rfid.orla.sim.Call;
+import com.kovra.rfid.orla.sim.SimControl;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
@@ -58,6 +59,9 @@ class FilterTest extends NativeTest {
                 0, 4, 4, 2, 16, 2, 24, 8, 32, 2), "bank, offset, pattern bits, no mask");
         assertArrayEquals(new byte[] {0x11, 0x22}, call.blob("postFilter.tagPatternA.tagPattern"));
         assertNull(call.blob("postFilter.tagPatternA.tagMask"));
+        long patternBytes = fields(call.blob("postFilter.tagPatternA"), 8, 8)[0];
+        assertArrayEquals(new byte[] {0x11, 0x22}, SimControl.read(patternBytes, 2),
+                "the pattern bytes are never freed: they outlive the call");
     }
 
     @ParameterizedTest
@@ -104,5 +108,10 @@ class FilterTest extends NativeTest {
         Call call = inventory(null, new ANTENNA_INFO(new short[0], new OPERATION_QUALIFIER[0]));
         assertNotEquals(0L, fields(call.blob("antennaInfo"), 16, 8)[0], "length 0 keeps the caller's list");
         assertArrayEquals(new byte[0], call.blob("antennaInfo.antennaList"));
+
+        ANTENNA_INFO negative = new ANTENNA_INFO(new short[] {4});
+        negative.length = -1;
+        assertArrayEquals(new long[] {0xFFFF_FFFFL, 0}, fields(inventory(null, negative).blob("antennaInfo"), 8, 4, 16, 8),
+                "a negative length is passed on as it stands and copies no antenna");
     }
 }

@@ -9,6 +9,8 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
+import java.lang.reflect.Field;
+import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.CsvSource;
@@ -36,6 +38,25 @@ class TagDataTest extends NativeTest {
                     : width == 2 ? Bytes.u16(b, off) : Bytes.u8(b, off);
         }
         return values;
+    }
+
+    /**
+     * Stores a raw byte into a boolean field of object, as native code can leave it; Java code itself only
+     * ever stores 0 or 1 there.
+     */
+    static void rawBoolean(Object object, String field, int value) {
+        try {
+            Class<?> unsafeClass = Class.forName("sun.misc.Unsafe");
+            Field theUnsafe = unsafeClass.getDeclaredField("theUnsafe");
+            theUnsafe.setAccessible(true);
+            Object unsafe = theUnsafe.get(null);
+            long offset = (long) unsafeClass.getMethod("objectFieldOffset", Field.class)
+                    .invoke(unsafe, object.getClass().getField(field));
+            unsafeClass.getMethod("putByte", Object.class, long.class, byte.class)
+                    .invoke(unsafe, object, offset, (byte) value);
+        } catch (ReflectiveOperationException e) {
+            throw new AssertionError(e);
+        }
     }
 
     /** A calendar time at off whose members are first, first + 1, ... first + 7. */
@@ -170,6 +191,45 @@ class TagDataTest extends NativeTest {
         assertEquals(0, untouched.peakRSSI);
         assertEquals(77, untouched.gpsLocation.longitude);
         assertEquals(77, untouched.seenTime.utcTime.firstSeenTimeStamp.Year);
+    }
+
+    /** The bytes 0, 1, 2, ... (mod 256), count of them. */
+    private static byte[] counting(int count) {
+        byte[] b = new byte[count];
+        for (int i = 0; i < count; i++) {
+            b[i] = (byte) i;
+        }
+        return b;
+    }
+
+    @Test
+    void renderingsOfTheLongestDataFitWhole() {
+        byte[] longest = counting(2047);
+        long reply = SimControl.alloc(longest);
+        byte[] result = new Bytes.Builder(16).u16(0, 2047 * 8 + 7).ptr(8, reply).build();
+        byte[] record = fullRecord(longest).ptr(96, SimControl.alloc(longest)).u32(108, 2047)
+                .u32(80, 24).ptr(144, SimControl.alloc(result)).build();
+        TAG_DATA tag = new TAG_DATA();
+        assertEquals(0, readTag(connect(), tag, record, true));
+
+        String text = Bytes.hex(longest);
+        String[] rendered = {tag.tagID, tag.memoryBankData,
+            tag.AccessOperationResult.value.authenticateReadBufferResult};
+        assertArrayEquals(new int[] {4094, 4094, 4094}, Arrays.stream(rendered).mapToInt(String::length).toArray(),
+                "identifier, bank data and reply (16,383 bits: whole bytes only)");
+        assertArrayEquals(new String[] {text, text, text}, rendered);
+    }
+
+    @Test
+    void absentOptionalRecordsLeaveTheirJavaObjectsUnread() {
+        TAG_DATA tag = new TAG_DATA();
+        tag.AccessOperationResult = null;
+        tag.gpsLocation = null;
+        tag.location = null;
+        tag.isContainLocationInfo = true;
+        // Fetching the fields of any of the three null objects would stop the virtual machine.
+        assertEquals(0, readTag(connect(), tag, fullRecord(new byte[1]).u32(80, 21).build(), true));
+        assertFalse(tag.isContainLocationInfo, "the conversion ran to its end");
     }
 
     @Test

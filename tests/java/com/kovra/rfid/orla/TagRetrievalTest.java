@@ -51,6 +51,16 @@ class TagRetrievalTest extends NativeTest {
     }
 
     @Test
+    void maximumOfZeroOrLessReachesTheReaderAsItStands() {
+        int handle = connect();
+        int[] count = {-7};
+        assertEquals(0, ORLANatives.rfid_GetReadTags(handle, -1, new TAG_DATA[0], count, true));
+        assertEquals(0xFFFF_FFFFL, SimControl.args("rfid_GetReadTags", -1)[1], "the maximum as unsigned 32 bits");
+        assertEquals(0, count[0], "nothing buffered: an empty batch");
+        assertEquals(0, SimControl.args("rfid_DeallocateTags", -1)[2]);
+    }
+
+    @Test
     void resultIsTheReleaseStatusNotTheFetchStatus() {
         int handle = connect();
         SimControl.setOutput("rfid_GetReadTags", records(2));

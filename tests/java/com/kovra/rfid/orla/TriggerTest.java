@@ -59,7 +59,7 @@ class TriggerTest extends NativeTest {
         v.periodic.periodMilliseconds = 0x89AB_CDEF;
         v.periodic.startTime = time(0xFFF8);
         v.gpi.portNumber = (short) 0x8001;
-        v.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(v.gpi, "eventInfo", 2);
         v.gpi.timeoutMilliseconds = -1;
         v.handheld.handheldEvent = HANDHELD_TRIGGER_EVENT_TYPE.HANDHELD_TRIGGER_PRESSED;
         v.handheld.timeoutMilliseconds = 500;
@@ -104,7 +104,7 @@ class TriggerTest extends NativeTest {
         v.duration = -2;
         v.gpi = new GPI_TRIGGER();
         v.gpi.portNumber = 3;
-        v.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(v.gpi, "eventInfo", 0x80);
         v.gpi.timeoutMilliseconds = 0x1234_5678;
         v.tagObservation = withTimeout(0xFFFF, 700);
         v.numAttempts = withTimeout(4, 900);
@@ -163,7 +163,7 @@ class TriggerTest extends NativeTest {
         starts[1] = new START_TRIGGER();
         starts[1].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_GPI;
         starts[1].value.gpi.portNumber = 2;
-        starts[1].value.gpi.eventInfo = true;
+        TagDataTest.rawBoolean(starts[1].value.gpi, "eventInfo", 2);
         starts[1].value.gpi.timeoutMilliseconds = 99;
         starts[3] = new START_TRIGGER();
         starts[3].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
@@ -182,9 +182,38 @@ class TriggerTest extends NativeTest {
         assertNotEquals(0L, Bytes.ptr(x, 128));
         assertArrayEquals(timeBytes(2030), call.blob("triggerInfo.extraTriggers.start[3].startTime"));
         assertArrayEquals(new byte[] {0, 0, 8, 0, 0, 0}, call.blob("triggerInfo.extraTriggers.start[5].startTime"));
+        long block = Bytes.ptr(call.blob("triggerInfo"), 56);
+        assertArrayEquals(x, SimControl.read(block, 256), "the block is never freed: its bytes outlive the call");
+        assertArrayEquals(timeBytes(2030), SimControl.read(Bytes.ptr(x, 88), 16), "nor is an entry's own time");
         for (int[] zero : new int[][] {{0, 24}, {48, 72}, {96, 120}, {144, 256}}) {
             assertArrayEquals(new byte[zero[1] - zero[0]], Arrays.copyOfRange(x, zero[0], zero[1]), "unused entries");
         }
+    }
+
+    @Test
+    void missingTypesAndStopVariantsLeaveTheirBytesAlone() {
+        TRIGGER_INFO t = new TRIGGER_INFO();
+        t.stopTrigger.type = STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_GPI_WITH_TIMEOUT;
+        assertEquals(2, fields(record(t), 24, 4)[0], "a stop variant that is null is not read");
+
+        START_TRIGGER untypedStart = new START_TRIGGER();
+        untypedStart.type = null;
+        untypedStart.value.distance.value = 99;
+        t.extraTriggers.startTrigger[0] = untypedStart;
+        STOP_TRIGGER[] stops = t.extraTriggers.stopTrigger;
+        STOP_TRIGGER_TYPE[] types = {STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_GPI_WITH_TIMEOUT,
+            STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_HANDHELD_WITH_TIMEOUT, STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_TIMELAPSE,
+            STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_N_ATTEMPTS_WITH_TIMEOUT, null};
+        for (int i = 0; i < types.length; i++) {
+            stops[i] = new STOP_TRIGGER();
+            stops[i].type = types[i];
+            stops[i].value.duration = 77;
+        }
+        byte[] x = inventory(t).blob("triggerInfo.extraTriggers");
+        assertArrayEquals(new byte[168], Arrays.copyOf(x, 168), "an untyped start entry stays zero, value unread");
+        assertArrayEquals(new long[] {2, 0, 5, 0, 6, 0, 4, 0, 0, 0},
+                fields(x, 168, 4, 172, 8, 180, 4, 184, 8, 192, 4, 196, 8, 204, 4, 208, 8, 216, 4, 220, 8),
+                "null variants keep only the type; a null type keeps 0 and its duration is not read");
     }
 
     @Test
