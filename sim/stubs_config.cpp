@@ -10,7 +10,9 @@
 
 #include "api_call.h"
 #include "radio_io_settings.h"
+#include "reader_admin.h"
 #include "record_bytes.h"
+#include "status.h"
 
 namespace sim {
 namespace {
@@ -272,47 +274,56 @@ int32_t RFID_SetUserLED(int64_t handle, void* ledInfo) {
   return call.finish();
 }
 
-// Reader information, clock, statistics and health.
+// Reader information, clock, statistics and health. Without a script the
+// getters answer with what the reader keeps (reader_admin.h), and setters
+// change it only when the call succeeded.
 
 int32_t RFID_GetSystemInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_GetSystemInfoW", handle, info);
-  call.outputs({{info, sim::kSystemInfoBytes, "info"}});
+  call.outputs({{info, sim::kSystemInfoBytes, "info"}}, sim::systemInfoAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_GetReaderInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_GetReaderInfoW", handle, info);
-  call.outputs({{info, sim::kReaderInfoBytes, "info"}});
+  call.outputs({{info, sim::kReaderInfoBytes, "info"}}, sim::readerInfoAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_SetReaderInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_SetReaderInfoW", handle, info);
   call.blob("info", info, sim::kReaderInfoBytes);
-  return call.finish();
+  call.require(info);
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::keepReaderInfo(handle, call.captured("info")) : status;
 }
 
 int32_t RFID_GetLocalTime(int64_t handle, void* time) {
   ApiCall call("RFID_GetLocalTime", handle, time);
-  call.outputs({{time, sim::kSystemTimeBytes, "time"}});
+  call.outputs({{time, sim::kSystemTimeBytes, "time"}}, sim::localTimeAnswer(handle));
   return call.finish();
 }
 
+// An impossible date or time is refused.
 int32_t RFID_SetLocalTime(int64_t handle, void* time) {
   ApiCall call("RFID_SetLocalTime", handle, time);
   call.blob("time", time, sim::kSystemTimeBytes);
-  return call.finish();
+  call.require(time);
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::setLocalTime(handle, call.captured("time")) : status;
 }
 
 int32_t RFID_GetTimeZoneListW(int64_t handle, void* list) {
   ApiCall call("RFID_GetTimeZoneListW", handle, list);
-  call.outputs({{list, sim::kNameListBytes, "list"}});
+  call.outputs({{list, sim::kNameListBytes, "list"}}, sim::timeZoneListAnswer(handle));
   return call.finish();
 }
 
+// An index beyond the list is refused.
 int32_t RFID_SetTimeZone(int64_t handle, uint16_t index) {
   ApiCall call("RFID_SetTimeZone", handle, index);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::selectTimeZone(handle, index) : status;
 }
 
 int32_t RFID_GetReaderStats(int64_t handle, uint16_t antennaID, void* stats) {
@@ -327,18 +338,19 @@ int32_t RFID_ClearReaderStats(int64_t handle) {
 }
 
 // What the fourth argument designates is the reader's business; it is only
-// recorded.
+// recorded, never read or written.
 int32_t RFID_GetHealthStatus(int64_t handle, uint32_t query, int32_t* status, void* detail) {
   ApiCall call("RFID_GetHealthStatus", handle, query, status, detail);
   call.outputs({{status, 4, "status"}});
   return call.finish();
 }
 
-// Profiles.
+// Profiles. Import and export are only recorded; deleting the active
+// profile is refused, and an unknown name gives kNotFound.
 
 int32_t RFID_GetProfileListW(int64_t handle, void* list) {
   ApiCall call("RFID_GetProfileListW", handle, list);
-  call.outputs({{list, sim::kNameListBytes, "list"}});
+  call.outputs({{list, sim::kNameListBytes, "list"}}, sim::profileListAnswer(handle));
   return call.finish();
 }
 
@@ -359,26 +371,31 @@ int32_t RFID_ExportProfileToReaderW(int64_t handle, const wchar_t* first, const 
 int32_t RFID_DeleteProfileW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_DeleteProfileW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::deleteProfile(handle, call.captured("name")) : status;
 }
 
 int32_t RFID_SetActiveProfileW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_SetActiveProfileW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::activateProfile(handle, call.captured("name")) : status;
 }
 
-// Updates.
+// Updates. A software update from a named host is over at once; the radio
+// updates are only recorded.
 
 int32_t RFID_UpdateSoftwareW(int64_t handle, void* updateInfo) {
   ApiCall call("RFID_UpdateSoftwareW", handle, updateInfo);
   call.blob("updateInfo", updateInfo, sim::kUpdateInfoBytes);
-  return call.finish();
+  call.require(updateInfo);
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::updateSoftware(handle, call.captured("updateInfo")) : status;
 }
 
 int32_t RFID_GetUpdateStatusW(int64_t handle, void* status) {
   ApiCall call("RFID_GetUpdateStatusW", handle, status);
-  call.outputs({{status, sim::kUpdateStatusBytes, "status"}});
+  call.outputs({{status, sim::kUpdateStatusBytes, "status"}}, sim::updateStatusAnswer(handle));
   return call.finish();
 }
 
@@ -394,67 +411,77 @@ int32_t RFID_UpdateRadioFirmwareW(int64_t handle, const wchar_t* name) {
   return call.finish();
 }
 
-// User applications.
+// User applications, kept by name; an unknown name gives kNotFound.
 
 int32_t RFID_InstallUserAppW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_InstallUserAppW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::installUserApp(handle, call.captured("name")) : status;
 }
 
 int32_t RFID_UninstallUserAppW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_UninstallUserAppW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::uninstallUserApp(handle, call.captured("name")) : status;
 }
 
 int32_t RFID_StartUserAppW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_StartUserAppW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::runUserApp(handle, call.captured("name"), true) : status;
 }
 
 int32_t RFID_StopUserAppW(int64_t handle, const wchar_t* name) {
   ApiCall call("RFID_StopUserAppW", handle, name);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::runUserApp(handle, call.captured("name"), false) : status;
 }
 
 int32_t RFID_SetUserAppAutoStartW(int64_t handle, const wchar_t* name, uint8_t autoStart) {
   ApiCall call("RFID_SetUserAppAutoStartW", handle, name, autoStart);
   call.blob("name", name, sim::kWideFieldBytes);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::setUserAppAutoStart(handle, call.captured("name"), autoStart != 0) : status;
 }
 
 int32_t RFID_ListUserAppsW(int64_t handle, void* list) {
   ApiCall call("RFID_ListUserAppsW", handle, list);
-  call.outputs({{list, sim::kUserAppListBytes, "list"}});
+  call.outputs({{list, sim::kUserAppListBytes, "list"}}, sim::userAppListAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_GetUserAppRunStatusW(int64_t handle, const wchar_t* name, uint8_t* running) {
   ApiCall call("RFID_GetUserAppRunStatusW", handle, name, running);
   call.blob("name", name, sim::kWideFieldBytes);
-  call.outputs({{running, 1, "running"}});
-  return call.finish();
+  uint8_t answer = 0;
+  const int32_t known = sim::userAppRunStatus(handle, call.captured("name"), &answer);
+  call.outputs({{running, 1, "running"}}, {answer});
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? known : status;
 }
 
-// LLRP configuration persistence.
+// LLRP configuration persistence: the save is only remembered.
 
 int32_t RFID_SaveLlrpConfig(int64_t handle, void* argument) {
   ApiCall call("RFID_SaveLlrpConfig", handle, argument);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::saveLlrpConfig(handle) : status;
 }
 
 int32_t RFID_GetSaveLlrpConfigStatus(int64_t handle, uint8_t* status) {
   ApiCall call("RFID_GetSaveLlrpConfigStatus", handle, status);
-  call.outputs({{status, 1, "status"}});
+  call.outputs({{status, 1, "status"}}, {sim::llrpConfigSavedAnswer(handle)});
   return call.finish();
 }
 
 int32_t RFID_ResetConfigToFactoryDefaults(int64_t handle) {
   ApiCall call("RFID_ResetConfigToFactoryDefaults", handle);
-  return call.finish();
+  const int32_t status = call.finish();
+  return status == sim::kSuccess ? sim::resetToFactoryDefaults(handle) : status;
 }
 
 }  // extern "C"
@@ -462,6 +489,8 @@ int32_t RFID_ResetConfigToFactoryDefaults(int64_t handle) {
 // Exported with C++ linkage: the library imports it under this mangled name.
 int32_t rfid_GetNumInstalledApps(void* handle, unsigned int* count) {
   ApiCall call("rfid_GetNumInstalledApps", reinterpret_cast<int64_t>(handle), count);
-  call.outputs({{count, sizeof *count, "count"}});
+  std::vector<uint8_t> answer(sizeof *count, 0);
+  sim::putField<uint32_t>(&answer, 0, sim::installedAppCount(reinterpret_cast<int64_t>(handle)));
+  call.outputs({{count, sizeof *count, "count"}}, answer);
   return call.finish();
 }

@@ -1,0 +1,278 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.ReaderInfoTest.FAILED;
+import static com.kovra.rfid.orla.ReaderInfoTest.FIELD_BYTES;
+import static com.kovra.rfid.orla.ReaderInfoTest.FIELD_CHARS;
+import static com.kovra.rfid.orla.ReaderInfoTest.assertZero;
+import static com.kovra.rfid.orla.ReaderInfoTest.field;
+import static com.kovra.rfid.orla.ReaderInfoTest.letters;
+import static com.kovra.rfid.orla.ReaderInfoTest.nameList;
+import static com.kovra.rfid.orla.ReaderInfoTest.names;
+import static com.kovra.rfid.orla.TagDataTest.connect;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertNotEquals;
+import static org.junit.jupiter.api.Assertions.assertNull;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.SimControl;
+import java.util.LinkedHashMap;
+import java.util.Map;
+import org.junit.jupiter.api.Test;
+
+/** Profiles, software and radio updates, user applications and the LLRP configuration's persistence. */
+class ProfilesAppsTest extends NativeTest {
+
+    private static final int CLEARED_HEAD_BYTES = ReaderInfoTest.CLEARED_HEAD_BYTES;
+
+    private interface NameCall {
+        int call(int reader, String name);
+    }
+
+    private static byte[] blob(String fn, String name) {
+        return SimControl.blob(fn, -1, name);
+    }
+
+    private static long arg(String fn, int i) {
+        return SimControl.args(fn, -1)[i];
+    }
+
+    @Test
+    void singleNameCallsSendA260CharacterBufferAndReturnTheStatus() {
+        Map<String, NameCall> calls = new LinkedHashMap<>();
+        calls.put("RFID_DeleteProfileW", ORLANatives::RFID_DeleteProfile);
+        calls.put("RFID_SetActiveProfileW", ORLANatives::RFID_SetActiveProfile);
+        calls.put("RFID_UpdateRadioConfigW", ORLANatives::RFID_UpdateRadioConfig);
+        calls.put("RFID_UpdateRadioFirmwareW", ORLANatives::RFID_UpdateRadioFirmware);
+        calls.put("RFID_InstallUserAppW", ORLANatives::RFID_InstallUserApp);
+        calls.put("RFID_UninstallUserAppW", ORLANatives::RFID_UninstallUserApp);
+        calls.put("RFID_StartUserAppW", ORLANatives::RFID_StartUserApp);
+        calls.put("RFID_StopUserAppW", ORLANatives::RFID_StopUserApp);
+        int status = 40;
+        for (Map.Entry<String, NameCall> entry : calls.entrySet()) {
+            String fn = entry.getKey();
+            SimControl.setStatus(fn, ++status);
+            assertEquals(status, entry.getValue().call(-2, "name of " + fn), fn);
+            assertEquals(-2L, arg(fn, 0), fn + ": handle sign-extended");
+            byte[] name = blob(fn, "name");
+            assertEquals(FIELD_BYTES, name.length, fn);
+            assertEquals("name of " + fn, field(name, 0), fn);
+
+            entry.getValue().call(-2, null);
+            assertZero(blob(fn, "name"), 0, FIELD_BYTES);
+            entry.getValue().call(-2, letters(FIELD_CHARS + 9));
+            assertEquals(letters(FIELD_CHARS), field(blob(fn, "name"), 0), fn + ": cut, no terminator");
+        }
+    }
+
+    @Test
+    void importAndExportKeepTheJavaOrderAndExportNormalisesItsFlag() {
+        int reader = connect();
+        assertEquals(0, ORLANatives.RFID_ImportProfileFromReader(reader, "dense", "/tmp/dense.xml"));
+        assertEquals("dense", field(blob("RFID_ImportProfileFromReaderW", "first"), 0));
+        assertEquals("/tmp/dense.xml", field(blob("RFID_ImportProfileFromReaderW", "second"), 0));
+
+        assertEquals(0, ORLANatives.RFID_ExportProfileToReader(reader, "/tmp/fast.xml", null, true));
+        assertEquals("/tmp/fast.xml", field(blob("RFID_ExportProfileToReaderW", "first"), 0));
+        assertZero(blob("RFID_ExportProfileToReaderW", "second"), 0, FIELD_BYTES);
+        assertEquals(1L, arg("RFID_ExportProfileToReaderW", 3));
+        SimControl.setStatus("RFID_ExportProfileToReaderW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_ExportProfileToReader(reader, "a", "b", false));
+        assertEquals(0L, arg("RFID_ExportProfileToReaderW", 3));
+
+        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "scanner.pkg"));
+        assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "scanner", true));
+        assertEquals("scanner", field(blob("RFID_SetUserAppAutoStartW", "name"), 0));
+        assertEquals(1L, arg("RFID_SetUserAppAutoStartW", 2));
+        assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "scanner", false));
+        assertEquals(0L, arg("RFID_SetUserAppAutoStartW", 2));
+    }
+
+    @Test
+    void profileNamesAreJoinedWithColons() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetProfileListW", nameList(2, names("P1", "P2"), 0xFFFF));
+        PROFILE_LIST list = new PROFILE_LIST();
+        assertEquals(0, ORLANatives.RFID_GetProfileList(reader, list));
+        assertEquals("P1:P2", list.ProfileNamesList);
+        assertArrayEquals(new short[] {2, -1}, new short[] {list.numProfiles, list.activeProfileIndex});
+
+        SimControl.setOutput("RFID_GetProfileListW", nameList(3, names("", letters(700), "x"), 1));
+        assertEquals(0, ORLANatives.RFID_GetProfileList(reader, list));
+        assertEquals(":" + letters(700) + ":x", list.ProfileNamesList);
+
+        SimControl.setOutput("RFID_GetProfileListW", nameList(0, 0, 0));
+        assertEquals(0, ORLANatives.RFID_GetProfileList(reader, list));
+        assertEquals("", list.ProfileNamesList);
+
+        SimControl.setOutput("RFID_GetProfileListW", nameList(1, names("Q"), 4));
+        SimControl.setStatus("RFID_GetProfileListW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetProfileList(reader, list));
+        assertArrayEquals(new short[] {0, 0}, new short[] {list.numProfiles, list.activeProfileIndex});
+        assertEquals("", list.ProfileNamesList);
+    }
+
+    @Test
+    void softwareUpdateSendsItsThreeFieldsAndReadsItsProgress() {
+        int reader = connect();
+        UPDATE_INFO update = new UPDATE_INFO();
+        update.hostName = "ftp://10.0.0.9/build";
+        update.userName = "operator";
+        update.password = null;
+        assertEquals(0, ORLANatives.RFID_UpdateSoftware(reader, update));
+        byte[] record = blob("RFID_UpdateSoftwareW", "updateInfo");
+        assertEquals(3120, record.length);
+        assertEquals("ftp://10.0.0.9/build", field(record, 0));
+        assertEquals("operator", field(record, 1040));
+        assertZero(record, 2080, 2080 + CLEARED_HEAD_BYTES);
+
+        update.password = letters(FIELD_CHARS + 1);
+        ORLANatives.RFID_UpdateSoftware(reader, update);
+        assertEquals(letters(FIELD_CHARS), field(blob("RFID_UpdateSoftwareW", "updateInfo"), 2080));
+
+        SimControl.setOutput("RFID_GetUpdateStatusW",
+                new Bytes.Builder(1144).s32(0, -1).wide(4, "copying image 3/7", 285).build());
+        UPDATE_STATUS status = new UPDATE_STATUS();
+        assertEquals(0, ORLANatives.RFID_GetUpdateStatus(reader, status));
+        assertEquals(1144, blob("RFID_GetUpdateStatusW", "status").length);
+        assertEquals(-1, status.percentage);
+        assertEquals("copying image 3/7", status.updateInfo);
+
+        UPDATE_STATUS untouched = new UPDATE_STATUS();
+        SimControl.setStatus("RFID_GetUpdateStatusW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetUpdateStatus(reader, untouched));
+        assertEquals(0, untouched.percentage);
+        assertNull(untouched.updateInfo);
+    }
+
+    private static USER_APP_INFO[] apps(int n) {
+        USER_APP_INFO[] apps = new USER_APP_INFO[n];
+        for (int i = 0; i < n; i++) {
+            apps[i] = new USER_APP_INFO();
+        }
+        return apps;
+    }
+
+    /** A list of two entries; its count field says 9, which the library must not read. */
+    private static byte[] twoApps() {
+        byte[] entries = new Bytes.Builder(48)
+                .ptr(0, SimControl.allocWide("logger")).u8(8, 1).u8(9, 0).ptr(16, SimControl.allocWide("v1.2"))
+                .ptr(24, SimControl.allocWide("bridge")).u8(32, 0).u8(33, 1).ptr(40, SimControl.allocWide("beta"))
+                .build();
+        return new Bytes.Builder(16).u32(0, 9).ptr(8, SimControl.alloc(entries)).build();
+    }
+
+    @Test
+    void listedAppsFillAsManyObjectsAsTheJavaArrayHolds() {
+        int reader = connect();
+        SimControl.setOutput("RFID_ListUserAppsW", twoApps());
+        USER_APP_INFO[] both = apps(2);
+        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, both));
+        assertArrayEquals(new String[] {"logger", "v1.2", "bridge", "beta"},
+                new String[] {both[0].appName, both[0].Metadata, both[1].appName, both[1].Metadata});
+        assertArrayEquals(new boolean[] {true, false, false, true},
+                new boolean[] {both[0].runStatus, both[0].autoStart, both[1].runStatus, both[1].autoStart});
+
+        USER_APP_INFO[] one = apps(1);
+        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, one));
+        assertEquals("logger", one[0].appName);
+        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, apps(0)));
+
+        SimControl.setStatus("RFID_ListUserAppsW", FAILED);
+        USER_APP_INFO[] failed = apps(1);
+        assertEquals(FAILED, ORLANatives.RFID_ListUserApps(reader, failed));
+        assertNull(failed[0].appName);
+
+        SimControl.setStatus("RFID_ListUserAppsW", 0);
+        SimControl.setOutput("RFID_ListUserAppsW", new Bytes.Builder(16).u32(0, 2).build());
+        USER_APP_INFO[] noEntries = apps(2);
+        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, noEntries), "a null entry pointer writes nothing");
+        assertNull(noEntries[0].appName);
+    }
+
+    @Test
+    void runStatusAndSaveStatusStartAtZeroAndAreWrittenOnSuccessOnly() {
+        int reader = connect();
+        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "logger"));
+        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {1});
+        USER_APP_RUN_STATUS run = new USER_APP_RUN_STATUS();
+        assertEquals(0, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
+        assertEquals("logger", field(blob("RFID_GetUserAppRunStatusW", "name"), 0));
+        assertArrayEquals(new byte[] {0}, blob("RFID_GetUserAppRunStatusW", "running"), "preset to 0");
+        assertTrue(run.runStatus);
+        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {0});
+        SimControl.setStatus("RFID_GetUserAppRunStatusW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
+        assertTrue(run.runStatus, "untouched on failure");
+
+        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {1});
+        boolean[] saved = {false};
+        assertEquals(0, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
+        assertArrayEquals(new byte[] {0}, blob("RFID_GetSaveLlrpConfigStatus", "status"), "preset to 0");
+        assertTrue(saved[0]);
+        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {0});
+        SimControl.setStatus("RFID_GetSaveLlrpConfigStatus", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
+        assertTrue(saved[0], "untouched on failure");
+    }
+
+    @Test
+    void installedAppCountIsReturnedWhateverTheStatus() {
+        SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 0x8000_0007L).build());
+        assertEquals(0x8000_0007, ORLANatives.RFID_NumInstalledApps(-5));
+        assertEquals(-5L, arg("rfid_GetNumInstalledApps", 0), "handle sign-extended to pointer width");
+        assertArrayEquals(new byte[4], blob("rfid_GetNumInstalledApps", "count"), "preset to 0");
+
+        SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 9).build());
+        SimControl.setStatus("rfid_GetNumInstalledApps", FAILED);
+        assertEquals(9, ORLANatives.RFID_NumInstalledApps(-5), "the count, not the status");
+    }
+
+    @Test
+    void llrpSaveForwardsItsLongAndFactoryResetItsHandle() {
+        SimControl.setStatus("RFID_SaveLlrpConfig", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_SaveLlrpConfig(-4, 0x8000_0000_0000_0001L));
+        assertArrayEquals(new long[] {-4L, 0x8000_0000_0000_0001L}, SimControl.args("RFID_SaveLlrpConfig", -1));
+        ORLANatives.RFID_SaveLlrpConfig(7, -1L);
+        assertEquals(-1L, arg("RFID_SaveLlrpConfig", 1));
+
+        SimControl.setStatus("RFID_ResetConfigToFactoryDefaults", 33);
+        assertEquals(33, ORLANatives.RFID_ResetConfigToFactoryDefaults(-4));
+        assertEquals(-4L, arg("RFID_ResetConfigToFactoryDefaults", 0));
+    }
+
+    @Test
+    void theSimulatedReaderKeepsProfilesUpdatesAndApplications() {
+        int reader = connect();
+        PROFILE_LIST profiles = new PROFILE_LIST();
+        assertEquals(0, ORLANatives.RFID_SetActiveProfile(reader, "fast"));
+        assertEquals(0, ORLANatives.RFID_DeleteProfile(reader, "dense"));
+        assertEquals(0, ORLANatives.RFID_GetProfileList(reader, profiles));
+        assertEquals("default:fast", profiles.ProfileNamesList);
+        assertEquals(1, profiles.activeProfileIndex);
+
+        UPDATE_INFO update = new UPDATE_INFO();
+        update.hostName = "10.0.0.9";
+        assertEquals(0, ORLANatives.RFID_UpdateSoftware(reader, update));
+        UPDATE_STATUS progress = new UPDATE_STATUS();
+        assertEquals(0, ORLANatives.RFID_GetUpdateStatus(reader, progress));
+        assertEquals(100, progress.percentage);
+        assertEquals("Software updated from 10.0.0.9", progress.updateInfo);
+
+        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "apps/gateway-2.1.pkg"));
+        assertEquals(0, ORLANatives.RFID_StartUserApp(reader, "gateway-2.1"));
+        assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "gateway-2.1", true));
+        assertEquals(1, ORLANatives.RFID_NumInstalledApps(reader));
+        USER_APP_INFO[] listed = apps(1);
+        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, listed));
+        assertEquals("gateway-2.1", listed[0].appName);
+        assertTrue(listed[0].runStatus && listed[0].autoStart);
+
+        assertEquals(0, ORLANatives.RFID_UninstallUserApp(reader, "gateway-2.1"));
+        assertEquals(0, ORLANatives.RFID_NumInstalledApps(reader));
+        USER_APP_RUN_STATUS run = new USER_APP_RUN_STATUS();
+        assertNotEquals(0, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "gateway-2.1", run),
+                "an uninstalled application is unknown");
+    }
+}

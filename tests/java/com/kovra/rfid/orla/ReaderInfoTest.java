@@ -1,0 +1,294 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.TagDataTest.connect;
+import static com.kovra.rfid.orla.TagDataTest.members;
+import static com.kovra.rfid.orla.TagDataTest.sequence;
+import static com.kovra.rfid.orla.TagDataTest.systemTime;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertNotEquals;
+import static org.junit.jupiter.api.Assertions.assertNull;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.SimControl;
+import java.lang.reflect.Field;
+import java.util.Arrays;
+import org.junit.jupiter.api.Test;
+
+/** System and reader information, clock and time zones, operation counters and health. */
+class ReaderInfoTest extends NativeTest {
+
+    static final int FIELD_CHARS = 260;
+    static final int FIELD_BYTES = 4 * FIELD_CHARS;
+    static final int CLEARED_HEAD_BYTES = 519;
+    static final int FAILED = 6;
+
+    static String letters(int length) {
+        StringBuilder sb = new StringBuilder(length);
+        for (int i = 0; i < length; i++) {
+            sb.append((char) ('a' + i % 26));
+        }
+        return sb.toString();
+    }
+
+    /** The text of a 260-character field of a captured record; all 260 when it has no terminator. */
+    static String field(byte[] record, int off) {
+        return Bytes.wide(record, off, FIELD_CHARS);
+    }
+
+    static void assertZero(byte[] b, int from, int to) {
+        for (int i = from; i < to; i++) {
+            assertEquals(0, b[i], "byte " + i);
+        }
+    }
+
+    /** A C string table: the names as wide strings and an array of pointers to them. */
+    static long names(String... names) {
+        Bytes.Builder table = new Bytes.Builder(8 * Math.max(names.length, 1));
+        for (int i = 0; i < names.length; i++) {
+            table.ptr(8 * i, SimControl.allocWide(names[i]));
+        }
+        return SimControl.alloc(table.build());
+    }
+
+    /** The 24-byte name list of time zones and profiles. */
+    static byte[] nameList(int count, long table, int active) {
+        return new Bytes.Builder(24).u16(0, count).ptr(8, table).u16(16, active).build();
+    }
+
+    @Test
+    void systemInfoTakesEachFieldFromItsOffsetWithItsSign() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetSystemInfoW", new Bytes.Builder(5336)
+                .u32(0, 0x8000_0001L).s32(4, 77)
+                .wide(8, "radio 3.1", FIELD_CHARS).wide(1048, "fpga 7", FIELD_CHARS)
+                .wide(2088, "12 days", FIELD_CHARS).wide(3128, "dock 4", FIELD_CHARS)
+                .wide(4168, "hall B", FIELD_CHARS)
+                .s32(5208, -5).s32(5212, 0x7FFF_FFFF).s32(5216, 3).u32(5220, 0xFFFF_FFFEL)
+                .u8(5224, 200).u8(5225, 0x7F)
+                .bytes(5226, new byte[] {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9,
+                    9, 9, 9, 9})
+                .u32(5256, 0x0001_FFFEL).build());
+        SYSTEM_INFO info = new SYSTEM_INFO();
+        STRUCT_INFO structInfo = info.structInfo;
+        assertEquals(0, ORLANatives.RFID_GetSystemInfo(reader, info));
+
+        assertEquals(5336, SimControl.blob("RFID_GetSystemInfoW", -1, "info").length);
+        assertArrayEquals(new int[] {0x8000_0001, 77}, new int[] {structInfo.memoryAllocated, structInfo.memoryUsed});
+        assertArrayEquals(new String[] {"radio 3.1", "fpga 7", "12 days", "dock 4", "hall B"}, new String[] {
+            info.radioFirmwareVersion, info.fPGAVersion, info.upTime, info.readerName, info.readerLocation});
+        assertArrayEquals(new int[] {-5, 0x7FFF_FFFF, 3, -2, -56, 127}, new int[] {info.ramAvailable,
+            info.flashAvailable, info.ramUsed, info.ramTotal, info.cpuUsageForUserProcesses,
+            info.cpuUsageForSystemProcesses});
+        assertEquals(-2, info.powersourcetypeEnum, "low half of the power source, sign-extended");
+    }
+
+    @Test
+    void failedGettersLeaveTheirObjectsAlone() {
+        int reader = connect();
+        for (String fn : new String[] {"RFID_GetSystemInfoW", "RFID_GetReaderInfoW", "RFID_GetLocalTime",
+            "RFID_GetReaderStats"}) {
+            SimControl.setOutput(fn, new Bytes.Builder(5336).u32(0, 0x41).u32(4, 0x41).u32(16, 0x41).build());
+            SimControl.setStatus(fn, FAILED);
+        }
+        SYSTEM_INFO system = new SYSTEM_INFO();
+        assertEquals(FAILED, ORLANatives.RFID_GetSystemInfo(reader, system));
+        assertArrayEquals(new int[2], new int[] {system.structInfo.memoryAllocated, system.structInfo.memoryUsed});
+        assertNull(system.radioFirmwareVersion);
+        assertEquals(0, system.powersourcetypeEnum);
+
+        READER_INFO identity = new READER_INFO();
+        assertEquals(FAILED, ORLANatives.RFID_GetReaderInfo(reader, identity));
+        assertNull(identity.name);
+
+        SYSTEMTIME time = new SYSTEMTIME();
+        time.Year = 1999;
+        assertEquals(FAILED, ORLANatives.RFID_GetLocalTime(reader, time));
+        assertEquals(1999, time.Year);
+
+        READER_STATS stats = new READER_STATS();
+        assertEquals(FAILED, ORLANatives.RFID_GetReaderStats(reader, (short) 1, stats));
+        assertEquals(0, stats.identifiedSuccessCount);
+    }
+
+    @Test
+    void readerInfoGetsItsFourFieldsAndSetSendsThemCutToTheirFields() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetReaderInfoW", new Bytes.Builder(4160).wide(0, "north gate", FIELD_CHARS)
+                .wide(1040, "portal reader", FIELD_CHARS).wide(2080, "hall B", FIELD_CHARS)
+                .wide(3120, "ops desk", FIELD_CHARS).build());
+        READER_INFO got = new READER_INFO();
+        assertEquals(0, ORLANatives.RFID_GetReaderInfo(reader, got));
+        assertArrayEquals(new String[] {"north gate", "portal reader", "hall B", "ops desk"},
+                new String[] {got.name, got.description, got.location, got.contact});
+
+        READER_INFO sent = new READER_INFO();
+        sent.name = "dock door 4";
+        sent.description = null;
+        sent.location = "";
+        sent.contact = letters(FIELD_CHARS + 30);
+        assertEquals(0, ORLANatives.RFID_SetReaderInfo(reader, sent));
+        byte[] record = SimControl.blob("RFID_SetReaderInfoW", -1, "info");
+        assertEquals(4160, record.length);
+        assertEquals("dock door 4", field(record, 0));
+        assertEquals(0L, Bytes.u32(record, 4 * "dock door 4".length()), "terminated");
+        assertZero(record, 1040, 1040 + CLEARED_HEAD_BYTES);
+        assertZero(record, 2080, 2080 + CLEARED_HEAD_BYTES);
+        assertEquals(letters(FIELD_CHARS), field(record, 3120), "cut to 260 characters, no terminator");
+
+        SimControl.setStatus("RFID_SetReaderInfoW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_SetReaderInfo(reader, new READER_INFO()));
+    }
+
+    @Test
+    void theSimulatedReaderKeepsItsIdentityClockAndTimeZone() {
+        int reader = connect();
+        READER_INFO sent = new READER_INFO();
+        sent.name = "gate 7";
+        sent.description = "inbound";
+        sent.location = "yard";
+        sent.contact = "night shift";
+        assertEquals(0, ORLANatives.RFID_SetReaderInfo(reader, sent));
+
+        READER_INFO got = new READER_INFO();
+        assertEquals(0, ORLANatives.RFID_GetReaderInfo(reader, got));
+        assertArrayEquals(new String[] {"gate 7", "inbound", "yard", "night shift"},
+                new String[] {got.name, got.description, got.location, got.contact});
+        SYSTEM_INFO system = new SYSTEM_INFO();
+        assertEquals(0, ORLANatives.RFID_GetSystemInfo(reader, system));
+        assertArrayEquals(new String[] {"gate 7", "yard"}, new String[] {system.readerName, system.readerLocation});
+
+        SYSTEMTIME time = new SYSTEMTIME();
+        time.Year = 2030;
+        time.Month = 6;
+        time.Day = 15;
+        time.Hour = 10;
+        assertEquals(0, ORLANatives.RFID_SetLocalTime(reader, time));
+        SYSTEMTIME now = new SYSTEMTIME();
+        assertEquals(0, ORLANatives.RFID_GetLocalTime(reader, now));
+        assertArrayEquals(new short[] {2030, 6, 15, 10}, new short[] {now.Year, now.Month, now.Day, now.Hour});
+        time.Month = 13;
+        assertNotEquals(0, ORLANatives.RFID_SetLocalTime(reader, time), "an impossible date is refused");
+
+        assertEquals(0, ORLANatives.RFID_SetTimeZone(reader, (short) 2));
+        TIME_ZONE_LIST zones = new TIME_ZONE_LIST();
+        assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
+        assertEquals(zones.numTimeZones, zones.TimeZoneList.split("#").length);
+        assertEquals(2, zones.activeTimeZoneIndex);
+    }
+
+    @Test
+    void clockMembersTravelBitForBitInTheirOrder() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetLocalTime", systemTime(new Bytes.Builder(16), 0, 0x7FFE).build());
+        SYSTEMTIME got = new SYSTEMTIME();
+        assertEquals(0, ORLANatives.RFID_GetLocalTime(reader, got));
+        assertArrayEquals(sequence(0x7FFE), members(got), "0x8000 and above read as negative shorts");
+
+        SYSTEMTIME sent = new SYSTEMTIME();
+        sent.Year = -1;
+        sent.Month = 2;
+        sent.DayOfWeek = 3;
+        sent.Day = 4;
+        sent.Hour = 5;
+        sent.Minute = 6;
+        sent.Second = 7;
+        sent.Milliseconds = Short.MIN_VALUE;
+        ORLANatives.RFID_SetLocalTime(reader, sent);
+        assertArrayEquals(new long[] {0xFFFF, 2, 3, 4, 5, 6, 7, 0x8000},
+                TagDataTest.fields(SimControl.blob("RFID_SetLocalTime", -1, "time"), 0, 2, 2, 2, 4, 2, 6, 2, 8, 2,
+                        10, 2, 12, 2, 14, 2));
+
+        SimControl.setStatus("RFID_SetTimeZone", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_SetTimeZone(-3, (short) -2));
+        assertArrayEquals(new long[] {-3L, 0xFFFE}, SimControl.args("RFID_SetTimeZone", -1),
+                "handle sign-extended, index as 16 bits");
+    }
+
+    @Test
+    void timeZoneNamesAreJoinedWithHashes() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetTimeZoneListW", nameList(3, names("A", "B", "C"), 0xFFFF));
+        TIME_ZONE_LIST zones = new TIME_ZONE_LIST();
+        assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
+        assertEquals("A#B#C", zones.TimeZoneList);
+        assertArrayEquals(new short[] {3, -1}, new short[] {zones.numTimeZones, zones.activeTimeZoneIndex});
+
+        SimControl.setOutput("RFID_GetTimeZoneListW", nameList(4, names("Europe/Berlin", "", "x", letters(900)), 2));
+        assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
+        assertEquals("Europe/Berlin##x#" + letters(900), zones.TimeZoneList);
+
+        SimControl.setOutput("RFID_GetTimeZoneListW", nameList(0, 0, 0));
+        assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
+        assertEquals("", zones.TimeZoneList, "no zones: an empty string, not null");
+        assertEquals(0, zones.numTimeZones);
+
+        SimControl.setOutput("RFID_GetTimeZoneListW", nameList(1, names("Asia/Tokyo"), 5));
+        SimControl.setStatus("RFID_GetTimeZoneListW", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetTimeZoneList(reader, zones));
+        assertArrayEquals(new short[] {0, 0}, new short[] {zones.numTimeZones, zones.activeTimeZoneIndex});
+        assertEquals("", zones.TimeZoneList);
+    }
+
+    static final String[] COUNTERS = {"identifiedSuccessCount", "identifiedFailureCount", "readSuccessCount",
+        "readFailureCount", "writeSuccessCount", "writeFailureCount", "killSuccessCount", "killFailureCount",
+        "lockSuccessCount", "lockFailureCount", "blockWriteSuccessCount", "blockWriteFailureCount",
+        "blockEraseSuccessCount", "blockEraseFailureCount", "blockPermalockSuccessCount",
+        "blockPermalockFailureCount", "nxpChangeEASSuccessCount", "nxpChangeEASFailureCount",
+        "nxpEASAlarmSuccessCount", "nxpEASAlarmFailureCount", "nxpReadProtectSuccessCount",
+        "nxpReadProtectFailureCount", "nxpResetReadProtectSuccessCount", "nxpResetReadProtectFailureCount",
+        "nxpCalibrateSuccessCount", "nxpCalibrateFailureCount", "nxpChangeConfigSuccessCount",
+        "nxpChangeConfigFailureCount"};
+
+    @Test
+    void statsCountersComeFromTheirOffsetsAndSkipTheUnreadRange() throws ReflectiveOperationException {
+        Bytes.Builder record = new Bytes.Builder(192);
+        for (int i = 0; i < COUNTERS.length; i++) {
+            record.s32(4 * i, 100 + i);
+        }
+        for (int off = 112; off < 184; off += 4) {
+            record.s32(off, 0x5A5A_5A5A);
+        }
+        record.u32(184, 0xFFFF_FFFFL).u32(188, 0x8000_0000L);
+        SimControl.setOutput("RFID_GetReaderStats", record.build());
+        SimControl.setStatus("RFID_GetReaderStats", 0);
+
+        READER_STATS stats = new READER_STATS();
+        assertEquals(0, ORLANatives.RFID_GetReaderStats(-9, (short) -2, stats));
+        assertArrayEquals(new long[] {-9L, 0xFFFE}, Arrays.copyOf(SimControl.args("RFID_GetReaderStats", -1), 2));
+        for (int i = 0; i < COUNTERS.length; i++) {
+            Field counter = READER_STATS.class.getField(COUNTERS[i]);
+            assertEquals(100 + i, counter.getInt(stats), COUNTERS[i]);
+        }
+        assertEquals(-1, stats.impinjQTSuccessCount, "above 2^31 - 1 reads negative");
+        assertEquals(Integer.MIN_VALUE, stats.impinjQTFailureCount);
+
+        SimControl.setStatus("RFID_ClearReaderStats", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_ClearReaderStats(-9));
+        assertEquals(-9L, SimControl.args("RFID_ClearReaderStats", -1)[0]);
+    }
+
+    @Test
+    void healthStatusPassesTheOrdinalAndKeepsTheLowHalfOnSuccessOnly() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetHealthStatus", new Bytes.Builder(4).u32(0, 0x0001_8002L).build());
+        short[] health = {-7};
+        assertEquals(0, ORLANatives.RFID_GetHealthStatus(reader, HEALTH_PARAM.HEALTH_PARAM_DATABASE, health, null));
+        long[] args = SimControl.args("RFID_GetHealthStatus", -1);
+        assertEquals(3L, args[1]);
+        assertEquals(0L, args[3], "no int[]: a null fourth argument");
+        assertEquals(0L, Bytes.u32(SimControl.blob("RFID_GetHealthStatus", -1, "status"), 0), "status preset to 0");
+        assertEquals(-32766, health[0]);
+
+        int[] extra = {11, 12};
+        health[0] = -7;
+        SimControl.setStatus("RFID_GetHealthStatus", FAILED);
+        assertEquals(FAILED, ORLANatives.RFID_GetHealthStatus(reader, HEALTH_PARAM.HEALTH_PARAM_POWER_SUPPLY, health,
+                extra));
+        args = SimControl.args("RFID_GetHealthStatus", -1);
+        assertEquals(4L, args[1]);
+        assertNotEquals(0L, args[3], "an int[] passes its element pointer");
+        assertEquals(-7, health[0], "untouched on failure");
+        assertArrayEquals(new int[] {11, 12}, extra);
+    }
+}
