@@ -102,6 +102,7 @@ class ApiCall {
   std::vector<std::string> names_;
 
   void captureOuts(std::initializer_list<Out> outs);
+  std::vector<Out> writableOuts(std::initializer_list<Out> outs) const;
 };
 
 inline std::map<std::string, Blob> ApiCall::capturedBlobs() const {
@@ -111,7 +112,7 @@ inline std::map<std::string, Blob> ApiCall::capturedBlobs() const {
 }
 
 // Lays bytes across outs in their order; what the bytes do not cover is zeroed.
-inline void writeOuts(std::initializer_list<Out> outs, const std::vector<uint8_t>& bytes) {
+inline void writeOuts(const std::vector<Out>& outs, const std::vector<uint8_t>& bytes) {
   size_t at = 0;
   for (const Out& out : outs) {
     if (out.p != nullptr) {
@@ -129,19 +130,30 @@ inline void ApiCall::captureOuts(std::initializer_list<Out> outs) {
     if (out.name == nullptr) continue;
     blob(out.name, out.p, out.n);
     require(out.p);
+    missing_ = missing_ || captured(out.name).faulted;
   }
+}
+
+// A named out whose capture faulted is not writable either: it is skipped
+// like a NULL one instead of crashing the caller's process.
+inline std::vector<Out> ApiCall::writableOuts(std::initializer_list<Out> outs) const {
+  std::vector<Out> writable(outs);
+  for (Out& out : writable) {
+    if (out.name != nullptr && captured(out.name).faulted) out.p = nullptr;
+  }
+  return writable;
 }
 
 inline void ApiCall::outputs(std::initializer_list<Out> outs, const std::vector<uint8_t>& defaults) {
   captureOuts(outs);
   std::vector<uint8_t> bytes;
-  writeOuts(outs, scriptedOutput(fn_, &bytes) ? bytes : defaults);
+  writeOuts(writableOuts(outs), scriptedOutput(fn_, &bytes) ? bytes : defaults);
 }
 
 inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
   captureOuts(outs);
   std::vector<uint8_t> bytes;
-  if (scriptedOutput(fn_, &bytes)) writeOuts(outs, bytes);
+  if (scriptedOutput(fn_, &bytes)) writeOuts(writableOuts(outs), bytes);
 }
 
 inline int32_t ApiCall::finish() {

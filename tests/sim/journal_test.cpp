@@ -240,6 +240,15 @@ TEST_F(JournalTest, ANullOutputIsAnInvalidParameterAfterRecording) {
   EXPECT_FALSE(call.blobs["mode"].present);
 }
 
+TEST_F(JournalTest, AnUnwritableOutputIsAnInvalidParameterNotACrash) {
+  int64_t handle = connect();
+  GuardedPages pages;
+  auto* mode = reinterpret_cast<uint32_t*>(pages.guard());
+  sim::setScriptedOutput("RFID_GetAntennaMode", {1, 2, 3, 4});
+  EXPECT_EQ(sim::kInvalidParam, RFID_GetAntennaMode(handle, mode));
+  EXPECT_TRUE(callOf("RFID_GetAntennaMode", -1).blobs["mode"].faulted);
+}
+
 TEST_F(JournalTest, OutputsSpreadTheScriptAcrossOutParametersEvenOnFailure) {
   int64_t handle = connect();
   uint16_t first = 0, second = 0xAAAA, third = 0xBBBB;
