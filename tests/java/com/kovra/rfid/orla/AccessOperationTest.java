@@ -155,6 +155,35 @@ class AccessOperationTest extends NativeTest {
     }
 
     @Test
+    void readOfASimulatedTagReturnsTheBytesOfItsBank() {
+        assertNull(SimReader.loadTags("EPC=E2000017220100050000AAAA USER=0011223344556677 ANT=2 RSSI=-61"));
+        int handle = connect();
+        READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
+        p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
+        p.byteOffset = 2;
+        p.byteCount = 4;
+        TAG_DATA tag = TagDataTest.markedTag();
+        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true));
+        assertEquals("E2000017220100050000AAAA", tag.tagID);
+        assertEquals("22334455", tag.memoryBankData);
+        assertArrayEquals(new int[] {0, 3, 2, -61}, new int[] {tag.enumOPCode, tag.enumMemoryBank, tag.antennaID,
+            tag.peakRSSI});
+
+        p.byteCount = 0;
+        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true));
+        assertEquals("223344556677", tag.memoryBankData, "byte count 0 reads to the end of the bank");
+
+        p.byteCount = 7;
+        assertEquals(2, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true), "beyond the bank");
+        assertEquals(6, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAB", 12, p, null, null, tag, null, null,
+                true), "no such tag in the field");
+        assertEquals(0, SimReader.liveTagRecords(handle));
+    }
+
+    @Test
     void accessFilterRecordsSitAtTheirOffsets() {
         ACCESS_FILTER filter = new ACCESS_FILTER();
         filter.structInfo.memoryAllocated = -2;
