@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "access/param_fields.h"
 #include "bridge/pinned_array.h"
 #include "jni_fields.h"
 #include "tags/enum_field.h"
@@ -17,27 +18,6 @@ constexpr const char* kRecommissionOpCodeSignature = "Lcom/kovra/rfid/orla/RECOM
 constexpr const char* kQtDataSignature = "Lcom/kovra/rfid/orla/IMPINJ_QT_DATA;";
 constexpr const char* kTidHideStateSignature = "Lcom/kovra/rfid/orla/TID_HIDE_STATE;";
 constexpr const char* kOperatingRangeSignature = "Lcom/kovra/rfid/orla/TAG_OPERATING_RANGE;";
-
-// A Java long password; only its low 32 bits reach the tag.
-uint32_t getPasswordFromJobject(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint32_t>(getLongFromJobject(env, object, name));
-}
-
-// A Java short stored as the same 16 bits.
-uint16_t getWordFromJobject(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint16_t>(getShortFromJobject(env, object, name));
-}
-
-RFID_BOOL getFlagFromJobject(JNIEnv* env, jobject object, const char* name) {
-  return getBoolFromJobject(env, object, name) ? 1 : 0;
-}
-
-// A Java byte field, as the same 8 bits.
-uint8_t getByteFromJobject(JNIEnv* env, jobject object, const char* name) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "B");
-  return static_cast<uint8_t>(env->GetByteField(object, field));
-}
 
 // A buffer of count bytes holding the first count bytes of a byte[] field.
 // The array is pinned and released even when count is 0.
