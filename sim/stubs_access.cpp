@@ -9,6 +9,7 @@
 
 #include "api_call.h"
 #include "capture_read.h"
+#include "reader_access.h"
 #include "record_bytes.h"
 #include "session_store.h"
 
@@ -154,7 +155,7 @@ int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, vo
   sim::captureParams(call, "params", params, sim::kReadParams);
   sim::captureFilter(call, "accessFilter", filter);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerRead(call, handle, tag);
 }
 
 int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,

@@ -1,0 +1,227 @@
+// Parameter records of the single tag access operations. Fields are read in
+// the order each record lists them below; a record that is not zeroed keeps
+// whatever its padding and reserved bytes held.
+#include "access/access_params.h"
+
+#include <cstddef>
+#include <cstdint>
+
+#include "access/param_fields.h"
+#include "bridge/pinned_array.h"
+#include "jni_fields.h"
+#include "tags/enum_field.h"
+
+namespace {
+
+constexpr const char* kMemoryBankSignature = "Lcom/kovra/rfid/orla/MEMORY_BANK;";
+constexpr const char* kRecommissionOpCodeSignature = "Lcom/kovra/rfid/orla/RECOMMISSION_OPERATION_CODE;";
+constexpr const char* kQtDataSignature = "Lcom/kovra/rfid/orla/IMPINJ_QT_DATA;";
+constexpr const char* kTidHideStateSignature = "Lcom/kovra/rfid/orla/TID_HIDE_STATE;";
+constexpr const char* kOperatingRangeSignature = "Lcom/kovra/rfid/orla/TAG_OPERATING_RANGE;";
+
+// A buffer of count bytes holding the first count bytes of a byte[] field.
+// The array is pinned and released even when count is 0.
+uint8_t* newByteCopy(JNIEnv* env, jobject object, const char* name, uint16_t count) {
+  auto* bytes = new uint8_t[count];
+  getByteArrayInJobject(env, object, name, bytes, count);
+  return bytes;
+}
+
+}  // namespace
+
+READ_ACCESS_PARAMS* fillReadParams(JNIEnv* env, jobject params, READ_ACCESS_PARAMS* record) {
+  if (params == nullptr) return nullptr;
+  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
+  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
+  record->byteCount = getWordFromJobject(env, params, "byteCount");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  return record;
+}
+
+WRITE_ACCESS_PARAMS* newWriteParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new WRITE_ACCESS_PARAMS();
+  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
+  const uint16_t length = getWordFromJobject(env, params, "writeDataLength");
+  record->writeDataLength = length;
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->writeData = newByteCopy(env, params, "writeData", length);
+  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
+  return record;
+}
+
+void deleteWriteParams(WRITE_ACCESS_PARAMS* record) {
+  if (record == nullptr) return;
+  delete[] record->writeData;
+  record->writeData = nullptr;
+  delete record;
+}
+
+BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new BLOCK_ERASE_ACCESS_PARAMS;
+  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
+  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
+  record->byteCount = getWordFromJobject(env, params, "byteCount");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  return record;
+}
+
+// The privileges pass through a buffer of five Java shorts of their own
+// before they are widened; a shorter Java array is read past its end.
+LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new LOCK_ACCESS_PARAMS;
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  auto* privileges = new uint16_t[kLockPrivilegeCount];
+  getShortArrayInJobject(env, params, "enumPrivilege", privileges, kLockPrivilegeCount);
+  for (size_t i = 0; i < kLockPrivilegeCount; ++i) record->enumPrivilege[i] = privileges[i];
+  delete[] privileges;
+  return record;
+}
+
+KILL_ACCESS_PARAMS* newKillParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new KILL_ACCESS_PARAMS;
+  record->killPassword = getPasswordFromJobject(env, params, "killPassword");
+  return record;
+}
+
+BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new BLOCK_PERMALOCK_ACCESS_PARAMS;
+  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
+  record->byteCount = getWordFromJobject(env, params, "byteCount");
+  record->maskLength = getWordFromJobject(env, params, "maskLength");
+  record->readLock = getFlagFromJobject(env, params, "readLock");
+  record->mask = new uint8_t[record->maskLength];
+  if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
+  return record;
+}
+
+void deleteBlockPermalockParams(BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
+  if (record == nullptr) return;
+  delete[] record->mask;
+  record->mask = nullptr;
+  delete record;
+}
+
+RECOMMISSION_ACCESS_PARAMS* newRecommissionParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new RECOMMISSION_ACCESS_PARAMS;
+  record->killPassword = getPasswordFromJobject(env, params, "killPassword");
+  record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionOpCodeSignature);
+  return record;
+}
+
+WRITE_FIELD_ACCESS_PARAMS* newWriteFieldParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new WRITE_FIELD_ACCESS_PARAMS;
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->writeDataLength = getWordFromJobject(env, params, "writeDataLength");
+  record->writeData = newByteCopy(env, params, "writeData", record->writeDataLength);
+  return record;
+}
+
+void deleteWriteFieldParams(WRITE_FIELD_ACCESS_PARAMS* record) {
+  if (record == nullptr) return;
+  delete[] record->writeData;
+  record->writeData = nullptr;
+  delete record;
+}
+
+NXP_READ_PROTECT_PARAMS* newNxpReadProtectParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new NXP_READ_PROTECT_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  return record;
+}
+
+NXP_RESET_READ_PROTECT_PARAMS* newNxpResetReadProtectParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new NXP_RESET_READ_PROTECT_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  return record;
+}
+
+NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new NXP_SET_EAS_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->EASState = getFlagFromJobject(env, params, "EASState");
+  return record;
+}
+
+NXP_CHANGE_CONFIG_PARAMS* newNxpChangeConfigParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new NXP_CHANGE_CONFIG_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->ChangeConfigWord = getWordFromJobject(env, params, "ChangeConfigWord");
+  return record;
+}
+
+IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new IMPINJ_QT_WRITE_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->qtPersist = getFlagFromJobject(env, params, "qtPersist");
+  jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
+  record->qtControlData = getWordFromJobject(env, qtData, "qtControlData");
+  return record;
+}
+
+IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new IMPINJ_QT_READ_PARAMS();
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  return record;
+}
+
+// Bits of the message beyond the last whole byte are not sent.
+AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new AUTHENTICATE_PARAMS();
+  record->sendRsp = getFlagFromJobject(env, params, "sendRsp");
+  record->incRespLen = getFlagFromJobject(env, params, "incRespLen");
+  record->CSI = getByteFromJobject(env, params, "CSI");
+  record->length = getWordFromJobject(env, params, "length");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->pMessage = newByteCopy(env, params, "pMessage", record->length / 8);
+  return record;
+}
+
+void fillUntraceableParams(JNIEnv* env, jobject params, UNTRACEABLE_PARAMS* record) {
+  *record = UNTRACEABLE_PARAMS();
+  record->assertU = getFlagFromJobject(env, params, "assertU");
+  record->hideEPC = getFlagFromJobject(env, params, "hideEPC");
+  record->EPCLength = getByteFromJobject(env, params, "EPCLength");
+  record->hideUser = getFlagFromJobject(env, params, "hideUser");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->hideTID = getEnumFieldFromJobject(env, params, "hideTID", kTidHideStateSignature);
+  record->operatingRange = getEnumFieldFromJobject(env, params, "operatingRange", kOperatingRangeSignature);
+}
+
+void fillReadBufferParams(JNIEnv* env, jobject params, READ_BUFFER_PARAMS* record) {
+  record->wordPtr = getWordFromJobject(env, params, "wordPtr");
+  record->bitCount = getWordFromJobject(env, params, "bitCount");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+}
+
+// Exactly three challenge words are read, whatever the Java array's length.
+CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new CRYPTO_PARAMS();
+  record->keyID = getByteFromJobject(env, params, "keyID");
+  record->customData = getFlagFromJobject(env, params, "customData");
+  record->profile = getByteFromJobject(env, params, "profile");
+  record->offset = getByteFromJobject(env, params, "offset");
+  record->blockCount = getByteFromJobject(env, params, "blockCount");
+  record->protMode = getByteFromJobject(env, params, "protMode");
+  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  auto challenge = static_cast<jintArray>(getJobjectFromJobject(env, params, "IChallenge", "[I"));
+  const orla::PinnedArray<jintArray> words(env, challenge);
+  for (size_t i = 0; i < kIChallengeWords; ++i) record->IChallenge[i] = static_cast<uint32_t>(words[static_cast<jsize>(i)]);
+  return record;
+}

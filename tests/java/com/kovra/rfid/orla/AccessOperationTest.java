@@ -1,0 +1,377 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.TagDataTest.connect;
+import static com.kovra.rfid.orla.TagDataTest.fields;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertNotEquals;
+import static org.junit.jupiter.api.Assertions.assertNull;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.Call;
+import com.kovra.rfid.orla.sim.SimControl;
+import com.kovra.rfid.orla.sim.SimReader;
+import java.util.Arrays;
+import java.util.function.IntBinaryOperator;
+import org.junit.jupiter.api.Test;
+
+/**
+ * Single Gen2 operations on one tag: the tag ID bytes, the parameter
+ * records, the access filter and antenna records as the reader received
+ * them (read at the reader's offsets from the simulator's copies), the
+ * argument order and widths, and the result tag. Also holds the helpers
+ * that the chip and Gen2v2 operation tests share.
+ */
+class AccessOperationTest extends NativeTest {
+
+    /** No such reader, and negative: the handle must arrive sign-extended. */
+    static final int NO_READER = -2;
+    static final long NO_READER_RAW = 0xFFFF_FFFF_FFFF_FFFEL;
+    static final String TAG_ID = "3000abCDef12";
+    static final byte[] TAG_BYTES = {0x30, 0x00, (byte) 0xAB, (byte) 0xCD, (byte) 0xEF, 0x12};
+    /** A password above 32 bits: only 0x87654321 may reach the reader. */
+    static final long PASSWORD = 0x1_8765_4321L;
+
+    static ANTENNA_INFO twoAntennas() {
+        return new ANTENNA_INFO(new short[] {3, (short) 0x8001},
+                new OPERATION_QUALIFIER[] {OPERATION_QUALIFIER.LOCATE_TAG, OPERATION_QUALIFIER.C1G2_OPERATION});
+    }
+
+    static void assertTwoAntennas(Call call) {
+        assertEquals(2, Bytes.u32(call.blob("antennaInfo"), 8));
+        assertArrayEquals(new long[] {3, 0x8001}, fields(call.blob("antennaInfo.antennaList"), 0, 2, 2, 2));
+        assertArrayEquals(new long[] {2, 0}, fields(call.blob("antennaInfo.antennaOpList"), 0, 4, 4, 4));
+    }
+
+    static void assertZero(byte[] record, int from, int to) {
+        assertArrayEquals(new byte[to - from], Arrays.copyOfRange(record, from, to), "bytes " + from + " to " + to);
+    }
+
+    /**
+     * Runs an operation that returns a tag three times on a connected reader:
+     * with a scripted result tag on success, with the same result on failure
+     * (the simulator still writes it), and without a tag object. Returns the
+     * Java tag of the successful run.
+     */
+    static TAG_DATA checkResultTag(String fn, byte[] result, ResultTagOperation op) {
+        int handle = connect();
+        SimControl.setOutput(fn, result);
+        TAG_DATA tag = TagDataTest.markedTag();
+        assertEquals(0, op.run(handle, tag, true));
+        Call call = Call.last(fn);
+        assertNotEquals(0L, call.arg(6), "a tag record was passed");
+        assertArrayEquals(new long[] {handle, call.arg(6)}, SimControl.args("RFID_DeallocateTag", -1),
+                "the same record is given back");
+        assertEquals(0, SimReader.liveTagRecords(handle));
+
+        SimControl.setStatus(fn, 9);
+        TAG_DATA untouched = TagDataTest.markedTag();
+        assertEquals(9, op.run(handle, untouched, true));
+        assertNull(untouched.tagID, "nothing is written on failure");
+        assertEquals(77, untouched.AccessOperationResult.value.qtData.qtControlData);
+        assertEquals(2, SimControl.count("RFID_DeallocateTag"), "given back on failure too");
+        assertEquals(0, SimReader.liveTagRecords(handle));
+
+        SimControl.setStatus(fn, 0);
+        assertEquals(0, op.run(handle, null, true));
+        assertEquals(0L, Call.last(fn).arg(6), "no tag object, no tag record");
+        assertArrayEquals(new long[] {2, 2}, new long[] {SimControl.count("RFID_AllocateTag"),
+            SimControl.count("RFID_DeallocateTag")});
+        return tag;
+    }
+
+    /** A tag-returning operation with a tag ID, called as op(handle, tag, utcTime). */
+    interface ResultTagOperation {
+        int run(int handle, TAG_DATA tag, boolean utcTime);
+    }
+
+    /** A scripted result tag: EPC 3000 1234, opCode and a result record behind pOpResult. */
+    static byte[] resultTag(int opCode, byte[] opResult) {
+        return TagDataTest.fullRecord(new byte[] {0x30, 0x00, 0x12, 0x34}).u32(80, opCode)
+                .ptr(144, SimControl.alloc(opResult)).build();
+    }
+
+    private static READ_ACCESS_PARAMS readParams() {
+        READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
+        p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
+        p.byteOffset = (short) 0x8001;
+        p.byteCount = -1;
+        p.accessPassword = PASSWORD;
+        return p;
+    }
+
+    @Test
+    void readSendsItsArgumentsInOrderAndWidth() {
+        assertEquals(1, ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, readParams(), null, twoAntennas(), null, null,
+                null, true), "the reader's status as it is");
+        Call call = Call.last("RFID_Read");
+        assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
+            call.arg(6), call.arg(7)}, "handle, length, no filter, no tag, reserved");
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"), "upper and lower case digits alike");
+        byte[] record = call.blob("params");
+        assertArrayEquals(new long[] {3, 0x8001, 0xFFFF, 0x8765_4321L}, fields(record, 0, 4, 4, 2, 6, 2, 8, 4));
+        assertTwoAntennas(call);
+        assertEquals(0, SimControl.count("RFID_AllocateTag"), "no tag object, no tag record");
+
+        ORLANatives.RFID_Read(NO_READER, "", 0, null, null, null, null, null, null, false);
+        call = Call.last("RFID_Read");
+        assertArrayEquals(new long[] {0, 0, 0}, new long[] {call.arg(2), call.arg(3), call.arg(5)},
+                "length 0, no parameters, no antennas");
+        assertArrayEquals(new byte[0], call.blob("tagID"), "an empty tag ID is an empty buffer, not NULL");
+    }
+
+    @Test
+    void readResultTagReachesJavaOnSuccessOnlyAndIsAlwaysGivenBack() {
+        byte[] result = resultTag(0, new byte[16]);
+        TAG_DATA tag = checkResultTag("RFID_Read", result, (handle, t, utc) -> ORLANatives.RFID_Read(handle, TAG_ID,
+                6, readParams(), null, null, t, null, null, utc));
+        assertEquals("30001234", tag.tagID);
+        assertEquals("AB0CDE", tag.memoryBankData);
+        assertEquals(0x7FFE, tag.seenTime.utcTime.firstSeenTimeStamp.Year, "UTC form asked for");
+        assertEquals(77, tag.seenTime.upTime.firstSeenTimeStamp);
+
+        TAG_DATA upTime = TagDataTest.markedTag();
+        int handle = connect();
+        assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, upTime, null, null, false));
+        assertEquals(Bytes.s64(result, 40), upTime.seenTime.upTime.firstSeenTimeStamp, "up-time form asked for");
+        assertEquals(77, upTime.seenTime.utcTime.firstSeenTimeStamp.Year);
+    }
+
+    @Test
+    void readRunsWithoutATagRecordWhenTheReaderHasNone() {
+        int handle = connect();
+        SimControl.setPointer("RFID_AllocateTag", 0);
+        SimControl.setOutput("RFID_Read", resultTag(0, new byte[16]));
+        TAG_DATA tag = TagDataTest.markedTag();
+        assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, tag, null, null, true));
+        assertEquals(0L, Call.last("RFID_Read").arg(6));
+        assertNull(tag.tagID);
+        assertEquals(0, SimControl.count("RFID_DeallocateTag"));
+    }
+
+    @Test
+    void readOfASimulatedTagReturnsTheBytesOfItsBank() {
+        assertNull(SimReader.loadTags("EPC=E2000017220100050000AAAA USER=0011223344556677 ANT=2 RSSI=-61"));
+        int handle = connect();
+        READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
+        p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
+        p.byteOffset = 2;
+        p.byteCount = 4;
+        TAG_DATA tag = TagDataTest.markedTag();
+        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true));
+        assertEquals("E2000017220100050000AAAA", tag.tagID);
+        assertEquals("22334455", tag.memoryBankData);
+        assertArrayEquals(new int[] {0, 3, 2, -61}, new int[] {tag.enumOPCode, tag.enumMemoryBank, tag.antennaID,
+            tag.peakRSSI});
+
+        p.byteCount = 0;
+        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true));
+        assertEquals("223344556677", tag.memoryBankData, "byte count 0 reads to the end of the bank");
+
+        p.byteCount = 7;
+        assertEquals(2, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
+                true), "beyond the bank");
+        assertEquals(6, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAB", 12, p, null, null, tag, null, null,
+                true), "no such tag in the field");
+        assertEquals(0, SimReader.liveTagRecords(handle));
+    }
+
+    @Test
+    void accessFilterRecordsSitAtTheirOffsets() {
+        ACCESS_FILTER filter = new ACCESS_FILTER();
+        filter.structInfo.memoryAllocated = -2;
+        filter.structInfo.memoryUsed = 0x0102_0304;
+        filter.tagPatternA = new TAG_PATTERN();
+        filter.tagPatternA.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
+        filter.tagPatternA.bitOffset = (short) 0x8010;
+        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2, (byte) 0x80, 0x11, 0x22};
+        filter.tagPatternA.tagPatternBitCount = 12;
+        filter.tagPatternA.tagMask = new byte[] {(byte) 0xFF, (byte) 0xF0, 0x0F};
+        filter.tagPatternA.tagMaskBitCount = 17;
+        filter.tagPatternB = new TAG_PATTERN();
+        filter.tagPatternB.tagPattern = new byte[] {0x30};
+        filter.tagPatternB.tagPatternBitCount = 8;
+        filter.matchPattern = FILTER_MATCH_PATTERN.A_AND_NOTB;
+        filter.rssiRangeFilter = new RSSI_RANGE_FILTER();
+        filter.rssiRangeFilter.peakRSSILowerLimit = -70;
+        filter.rssiRangeFilter.peakRSSIUpperLimit = 0x17F;
+        filter.rssiRangeFilter.matchRange = MATCH_RANGE.LOWER_THAN_UPPER_LIMIT;
+
+        ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, filter, null, null, null, null, true);
+        Call call = Call.last("RFID_Read");
+        byte[] record = call.blob("accessFilter");
+        assertArrayEquals(new long[] {0xFFFF_FFFEL, 0x0102_0304, 3}, fields(record, 0, 4, 4, 4, 24, 4));
+        assertArrayEquals(new long[] {2, 0x8010, 12, 17}, fields(call.blob("accessFilter.tagPatternA"),
+                0, 4, 4, 2, 16, 2, 32, 2), "bank, bit offset, pattern bits, mask bits");
+        assertArrayEquals(new byte[] {(byte) 0xE2, (byte) 0x80}, call.blob("accessFilter.tagPatternA.tagPattern"));
+        assertArrayEquals(new byte[] {(byte) 0xFF, (byte) 0xF0, 0x0F}, call.blob("accessFilter.tagPatternA.tagMask"));
+        assertArrayEquals(new long[] {1, 0, 8, 0, 0}, fields(call.blob("accessFilter.tagPatternB"),
+                0, 4, 4, 2, 16, 2, 24, 8, 32, 2), "no mask bits, no mask");
+        assertArrayEquals(new byte[] {0x30}, call.blob("accessFilter.tagPatternB.tagPattern"));
+        assertArrayEquals(new long[] {0xBA, 0x7F, 3}, fields(call.blob("accessFilter.rssiRangeFilter"), 0, 1, 1, 1, 4, 4),
+                "low byte of each limit, match range");
+
+        ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, new ACCESS_FILTER(), null, null, null, null, true);
+        assertArrayEquals(new long[] {0, 0, 0, 0}, fields(Call.last("RFID_Read").blob("accessFilter"),
+                8, 8, 16, 8, 24, 4, 32, 8), "optional patterns and RSSI range are NULL");
+    }
+
+    private static WRITE_ACCESS_PARAMS writeParams(byte[] data, int length) {
+        WRITE_ACCESS_PARAMS p = new WRITE_ACCESS_PARAMS();
+        p.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
+        p.byteOffset = (short) 0xFFFE;
+        p.writeData = data;
+        p.writeDataLength = (short) length;
+        p.accessPassword = PASSWORD;
+        return p;
+    }
+
+    @Test
+    void writeAndBlockWriteSendAZeroedRecordWithTheirData() {
+        for (String fn : new String[] {"RFID_Write", "RFID_BlockWrite"}) {
+            WRITE_ACCESS_PARAMS p = writeParams(new byte[] {1, 2, 3, 4, 5}, 3);
+            int status = fn.equals("RFID_Write")
+                    ? ORLANatives.RFID_Write(NO_READER, TAG_ID, 6, p, null, twoAntennas())
+                    : ORLANatives.RFID_BlockWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
+            assertEquals(1, status);
+            Call call = Call.last(fn);
+            assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
+                call.arg(6)}, fn + ": handle, length, no filter, reserved");
+            assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+            byte[] record = call.blob("params");
+            assertArrayEquals(new long[] {2, 0xFFFE, 3, 0x8765_4321L}, fields(record, 0, 4, 4, 2, 16, 2, 20, 4), fn);
+            assertZero(record, 6, 8);
+            assertZero(record, 18, 20);
+            assertZero(record, 24, 56);
+            assertArrayEquals(new byte[] {1, 2, 3}, call.blob("params.writeData"), fn + ": exactly the length");
+            assertTwoAntennas(call);
+        }
+
+        byte[] data = new byte[0x8000];
+        data[0x7FFF] = 0x5A;
+        ORLANatives.RFID_Write(NO_READER, TAG_ID, 6, writeParams(data, 0x8000), null, null);
+        Call call = Call.last("RFID_Write");
+        assertEquals(0x8000, Bytes.u16(call.blob("params"), 16), "length taken unsigned");
+        assertArrayEquals(data, call.blob("params.writeData"));
+
+        ORLANatives.RFID_BlockWrite(NO_READER, TAG_ID, 6, writeParams(new byte[0], 0), null, null);
+        assertArrayEquals(new byte[0], Call.last("RFID_BlockWrite").blob("params.writeData"), "empty, not NULL");
+    }
+
+    @Test
+    void blockEraseKillAndRecommissionFillTheirRecords() {
+        BLOCK_ERASE_ACCESS_PARAMS erase = new BLOCK_ERASE_ACCESS_PARAMS();
+        erase.memoryBank = MEMORY_BANK.MEMORY_BANK_RESERVED;
+        erase.byteOffset = 4;
+        erase.byteCount = (short) 0x8000;
+        erase.accessPassword = -1;
+        ORLANatives.RFID_BlockErase(NO_READER, TAG_ID, 6, erase, null, twoAntennas());
+        Call call = Call.last("RFID_BlockErase");
+        assertArrayEquals(new long[] {0, 4, 0x8000, 0xFFFF_FFFFL}, fields(call.blob("params"), 0, 4, 4, 2, 6, 2, 8, 4));
+        assertTwoAntennas(call);
+
+        KILL_ACCESS_PARAMS kill = new KILL_ACCESS_PARAMS();
+        kill.killPassword = PASSWORD;
+        ORLANatives.RFID_Kill(NO_READER, TAG_ID, 6, kill, null, null);
+        byte[] killRecord = Call.last("RFID_Kill").blob("params");
+        assertEquals(0x8765_4321L, Bytes.u32(killRecord, 0));
+
+        RECOMMISSION_ACCESS_PARAMS recommission = new RECOMMISSION_ACCESS_PARAMS();
+        recommission.killPassword = PASSWORD;
+        recommission.opCode = RECOMMISSION_OPERATION_CODE.RECOMMISSION_DISABLE_USER_MEMORY_PASSWORD_2ND_OPTION;
+        ORLANatives.RFID_Recommission(NO_READER, TAG_ID, 6, recommission, null, null);
+        call = Call.last("RFID_Recommission");
+        assertArrayEquals(new long[] {0x8765_4321L, 6}, fields(call.blob("params"), 0, 4, 4, 4));
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+
+        ORLANatives.RFID_Kill(NO_READER, TAG_ID, 6, null, null, null);
+        ORLANatives.RFID_BlockErase(NO_READER, TAG_ID, 6, null, null, null);
+        ORLANatives.RFID_Recommission(NO_READER, TAG_ID, 6, null, null, null);
+        assertArrayEquals(new long[] {0, 0, 0}, new long[] {Call.last("RFID_Kill").arg(3),
+            Call.last("RFID_BlockErase").arg(3), Call.last("RFID_Recommission").arg(3)}, "null parameter objects");
+    }
+
+    @Test
+    void lockWidensExactlyFivePrivilegesWithoutSign() {
+        LOCK_ACCESS_PARAMS lock = new LOCK_ACCESS_PARAMS();
+        lock.enumPrivilege = new short[] {0, 1, -1, 3, (short) 0x8002, 7};
+        lock.accessPassword = PASSWORD;
+        ORLANatives.RFID_Lock(NO_READER, TAG_ID, 6, lock, null, twoAntennas());
+        Call call = Call.last("RFID_Lock");
+        byte[] record = call.blob("params");
+        assertArrayEquals(new long[] {0, 1, 0xFFFF, 3, 0x8002, 0x8765_4321L},
+                fields(record, 0, 4, 4, 4, 8, 4, 12, 4, 16, 4, 20, 4), "the sixth element is not read");
+        assertTwoAntennas(call);
+
+        ORLANatives.RFID_Lock(NO_READER, TAG_ID, 6, null, null, null);
+        assertEquals(0L, Call.last("RFID_Lock").arg(3));
+    }
+
+    @Test
+    void blockPermalockFillsItsRecordAndMask() {
+        BLOCK_PERMALOCK_ACCESS_PARAMS p = new BLOCK_PERMALOCK_ACCESS_PARAMS();
+        p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
+        p.readLock = true;
+        p.byteOffset = (short) 0x8000;
+        p.byteCount = 2;
+        p.accessPassword = PASSWORD;
+        p.mask = new byte[] {(byte) 0xF0, 0x0F, 0x55};
+        p.maskLength = 2;
+        ORLANatives.RFID_BlockPermalock(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
+        Call call = Call.last("RFID_BlockPermalock");
+        byte[] record = call.blob("params");
+        assertArrayEquals(new long[] {3, 1, 0x8000, 2, 0x8765_4321L, 2},
+                fields(record, 0, 4, 4, 1, 6, 2, 8, 2, 12, 4, 24, 2));
+        assertArrayEquals(new byte[] {(byte) 0xF0, 0x0F}, call.blob("params.mask"));
+        assertTwoAntennas(call);
+
+        p.readLock = false;
+        p.maskLength = 0;
+        p.mask = null;
+        ORLANatives.RFID_BlockPermalock(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
+        call = Call.last("RFID_BlockPermalock");
+        assertArrayEquals(new long[] {0, 0}, fields(call.blob("params"), 4, 1, 24, 2));
+        assertArrayEquals(new byte[0], call.blob("params.mask"), "an empty mask, the Java array not read");
+    }
+
+    @Test
+    void blockPermalockResultTagReachesJavaOnSuccessOnly() {
+        TAG_DATA tag = checkResultTag("RFID_BlockPermalock", resultTag(7, new byte[16]), (handle, t, utc) ->
+                ORLANatives.RFID_BlockPermalock(handle, TAG_ID, 6, null, null, null, t, null, null, utc));
+        assertEquals("30001234", tag.tagID);
+    }
+
+    @Test
+    void singleFieldWritesTakeNoFilterAndCopyTheirData() {
+        IntBinaryOperator[] writes = {
+            (h, n) -> ORLANatives.RFID_WriteAccessPassword(h, TAG_ID, n, fieldParams(), twoAntennas()),
+            (h, n) -> ORLANatives.RFID_WriteKillPassword(h, TAG_ID, n, fieldParams(), twoAntennas()),
+            (h, n) -> ORLANatives.RFID_WriteTagID(h, TAG_ID, n, fieldParams(), twoAntennas())};
+        String[] names = {"RFID_WriteAccessPassword", "RFID_WriteKillPassword", "RFID_WriteTagID"};
+        for (int i = 0; i < writes.length; i++) {
+            assertEquals(1, writes[i].applyAsInt(NO_READER, 6));
+            Call call = Call.last(names[i]);
+            assertArrayEquals(new long[] {NO_READER_RAW, 6, 0}, new long[] {call.arg(0), call.arg(2), call.arg(5)});
+            assertNotEquals(0L, call.arg(4), names[i] + ": antennas right after the record");
+            assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+            byte[] record = call.blob("params");
+            assertArrayEquals(new long[] {0x8004, 0x8765_4321L}, fields(record, 8, 2, 12, 4), names[i]);
+            byte[] expected = new byte[0x8004];
+            expected[0x8003] = 0x44;
+            assertArrayEquals(expected, call.blob("params.writeData"), names[i] + ": length taken unsigned");
+            assertTwoAntennas(call);
+        }
+    }
+
+    private static WRITE_FIELD_ACCESS_PARAMS fieldParams() {
+        WRITE_FIELD_ACCESS_PARAMS p = new WRITE_FIELD_ACCESS_PARAMS();
+        p.accessPassword = PASSWORD;
+        p.writeData = new byte[0x8005];
+        p.writeData[0x8003] = 0x44;
+        p.writeData[0x8004] = 0x55;
+        p.writeDataLength = (short) 0x8004;
+        return p;
+    }
+}

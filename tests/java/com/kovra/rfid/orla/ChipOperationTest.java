@@ -1,0 +1,154 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.AccessOperationTest.NO_READER;
+import static com.kovra.rfid.orla.AccessOperationTest.NO_READER_RAW;
+import static com.kovra.rfid.orla.AccessOperationTest.PASSWORD;
+import static com.kovra.rfid.orla.AccessOperationTest.TAG_BYTES;
+import static com.kovra.rfid.orla.AccessOperationTest.TAG_ID;
+import static com.kovra.rfid.orla.AccessOperationTest.assertTwoAntennas;
+import static com.kovra.rfid.orla.AccessOperationTest.assertZero;
+import static com.kovra.rfid.orla.AccessOperationTest.checkResultTag;
+import static com.kovra.rfid.orla.AccessOperationTest.resultTag;
+import static com.kovra.rfid.orla.AccessOperationTest.twoAntennas;
+import static com.kovra.rfid.orla.TagDataTest.fields;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertNotEquals;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.Call;
+import org.junit.jupiter.api.Test;
+
+/**
+ * NXP and Impinj commands: their zeroed 40- and 80-byte records, the
+ * optional tag ID (NULL for a length that fails the command's test, with
+ * the length passed as given) and the result tags of change config and QT
+ * read.
+ */
+class ChipOperationTest extends NativeTest {
+
+    private static Bytes.Builder qtResult(int word) {
+        return new Bytes.Builder(16).u16(0, word);
+    }
+
+    @Test
+    void readProtectAndSetEasSendTheirZeroedRecords() {
+        NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
+        protect.accessPassword = PASSWORD;
+        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, twoAntennas()));
+        Call call = Call.last("RFID_NXPReadProtect");
+        assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
+            call.arg(6)}, "handle, length, no filter, reserved");
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+        byte[] record = call.blob("params");
+        assertEquals(0x8765_4321L, Bytes.u32(record, 0));
+        assertZero(record, 4, 40);
+        assertTwoAntennas(call);
+
+        NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
+        eas.accessPassword = PASSWORD;
+        eas.EASState = true;
+        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, twoAntennas());
+        call = Call.last("RFID_NXPSetEAS");
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+        record = call.blob("params");
+        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(record, 0, 4, 4, 1));
+        assertZero(record, 5, 40);
+        assertTwoAntennas(call);
+    }
+
+    @Test
+    void tagIdIsConvertedOnlyForLengthsThatPassEachTest() {
+        ORLANatives.RFID_NXPSetEAS(NO_READER, null, 0, null, null, null);
+        Call call = Call.last("RFID_NXPSetEAS");
+        assertArrayEquals(new long[] {0, 0, 0}, new long[] {call.arg(1), call.arg(2), call.arg(3)},
+                "no tag ID, length 0, no record");
+
+        ORLANatives.RFID_NXPReadProtect(NO_READER, null, 0, null, null, null);
+        assertArrayEquals(new long[] {0, 0}, new long[] {Call.last("RFID_NXPReadProtect").arg(1),
+            Call.last("RFID_NXPReadProtect").arg(2)});
+
+        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, -1, null, null, null);
+        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, -1, null, null, null);
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, -1, null, null, null, null, null, null, true);
+        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, -1, null, null, null, null, null, null, true);
+        for (String fn : new String[] {"RFID_NXPSetEAS", "RFID_ImpinjQTWrite", "RFID_ImpinjQTRead",
+            "RFID_NXPChangeConfig"}) {
+            call = Call.last(fn);
+            assertArrayEquals(new long[] {0, 0xFFFF_FFFFL}, new long[] {call.arg(1), call.arg(2)},
+                    fn + ": a negative length gives no tag ID and passes as it is");
+        }
+
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, "0A0b", 2, null, null, null, null, null, null, true);
+        assertArrayEquals(new byte[] {0x0A, 0x0B}, Call.last("RFID_ImpinjQTRead").blob("tagID"));
+    }
+
+    @Test
+    void resetReadProtectTakesNoTagIdAndNoFilter() {
+        NXP_RESET_READ_PROTECT_PARAMS reset = new NXP_RESET_READ_PROTECT_PARAMS();
+        reset.accessPassword = PASSWORD;
+        ORLANatives.RFID_NXPResetReadProtect(NO_READER, reset, twoAntennas());
+        Call call = Call.last("RFID_NXPResetReadProtect");
+        assertArrayEquals(new long[] {NO_READER_RAW, 0}, new long[] {call.arg(0), call.arg(3)});
+        byte[] record = call.blob("params");
+        assertEquals(0x8765_4321L, Bytes.u32(record, 0));
+        assertZero(record, 4, 40);
+        assertTwoAntennas(call);
+
+        ORLANatives.RFID_NXPResetReadProtect(NO_READER, null, twoAntennas());
+        call = Call.last("RFID_NXPResetReadProtect");
+        assertEquals(0L, call.arg(1), "no record");
+        assertNotEquals(0L, call.arg(2), "the antennas all the same");
+    }
+
+    @Test
+    void changeConfigSendsItsWordAndReturnsTheTagsWord() {
+        NXP_CHANGE_CONFIG_PARAMS p = new NXP_CHANGE_CONFIG_PARAMS();
+        p.accessPassword = PASSWORD;
+        p.ChangeConfigWord = (short) 0x8001;
+        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
+        Call call = Call.last("RFID_NXPChangeConfig");
+        byte[] record = call.blob("params");
+        assertArrayEquals(new long[] {0x8765_4321L, 0x8001}, fields(record, 0, 4, 4, 2));
+        assertZero(record, 6, 40);
+        assertTwoAntennas(call);
+
+        TAG_DATA tag = checkResultTag("RFID_NXPChangeConfig", resultTag(22, qtResult(0xFFFE).build()),
+                (handle, t, utc) -> ORLANatives.RFID_NXPChangeConfig(handle, TAG_ID, 6, p, null, null, t, null, null,
+                        utc));
+        assertEquals(-2, tag.AccessOperationResult.value.nxpChangeConfigWordResult.ChangeConfigWord);
+    }
+
+    @Test
+    void qtWriteSendsTheControlWordOfItsQtData() {
+        IMPINJ_QT_WRITE_PARAMS p = new IMPINJ_QT_WRITE_PARAMS();
+        p.accessPassword = PASSWORD;
+        p.qtPersist = true;
+        p.qtData.qtControlData = (short) 0x8000;
+        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
+        Call call = Call.last("RFID_ImpinjQTWrite");
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+        byte[] record = call.blob("params");
+        assertArrayEquals(new long[] {0x8765_4321L, 1, 0x00, 0x80}, fields(record, 0, 4, 4, 1, 8, 1, 9, 1));
+        assertZero(record, 5, 8);
+        assertZero(record, 10, 80);
+        assertTwoAntennas(call);
+    }
+
+    @Test
+    void qtReadSendsItsPasswordAndReturnsTheControlWord() {
+        IMPINJ_QT_READ_PARAMS p = new IMPINJ_QT_READ_PARAMS();
+        p.accessPassword = PASSWORD;
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, false);
+        Call call = Call.last("RFID_ImpinjQTRead");
+        byte[] record = call.blob("params");
+        assertEquals(0x8765_4321L, Bytes.u32(record, 0));
+        assertZero(record, 4, 40);
+        assertTwoAntennas(call);
+
+        TAG_DATA tag = checkResultTag("RFID_ImpinjQTRead", resultTag(21, qtResult(0x8001).build()),
+                (handle, t, utc) -> ORLANatives.RFID_ImpinjQTRead(handle, TAG_ID, 6, p, null, null, t, null, null,
+                        utc));
+        assertEquals((short) 0x8001, tag.AccessOperationResult.value.qtData.qtControlData);
+    }
+}
