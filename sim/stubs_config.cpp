@@ -8,9 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "antenna_settings.h"
 #include "api_call.h"
 #include "radio_io_settings.h"
 #include "reader_admin.h"
+#include "reader_caps_default.h"
 #include "record_bytes.h"
 #include "status.h"
 
@@ -18,9 +20,10 @@ namespace sim {
 namespace {
 
 // Sizes of the records as the library provides them.
-constexpr size_t kReaderCapsBytes = 3768;
-constexpr size_t kAntennaRfConfigBytes = 32;
-constexpr size_t kCableLossBytes = 12;
+constexpr size_t kReaderCapsBytes = kReaderCapsRecordBytes;
+constexpr size_t kAntennaRfConfigBytes = kAntennaRfConfigKept;
+constexpr size_t kAntennaRfConfigBlockBytes = 320;  // what the setter is handed
+constexpr size_t kCableLossBytes = kCableLossRecordBytes;
 constexpr size_t kUsbSettingsBytes = 8;
 constexpr size_t kDebounceBytes = 16;
 constexpr size_t kLedInfoBytes = 48;
@@ -37,20 +40,26 @@ constexpr size_t kUserAppListBytes = 16;
 // count beyond this is not believed.
 constexpr uint16_t kMaxCableLossRecords = 64;
 
-void captureCableLoss(ApiCall& call, uint16_t count, const void* records) {
+std::string cableLossName(uint16_t i) { return "cableLoss[" + std::to_string(i) + "]"; }
+
+// Returns how many records were captured.
+uint16_t captureCableLoss(ApiCall& call, uint16_t count, const void* records) {
   count = std::min(count, kMaxCableLossRecords);
   call.blob("cableLoss", records, count * sizeof(void*));
   const Blob& list = call.captured("cableLoss");
-  for (uint16_t i = 0; list.present && i < count; ++i) {
-    call.blob("cableLoss[" + std::to_string(i) + "]", pointerAt(list, i * sizeof(void*)), kCableLossBytes);
+  if (!list.present || list.faulted) return 0;
+  for (uint16_t i = 0; i < count; ++i) {
+    call.blob(cableLossName(i), pointerAt(list, i * sizeof(void*)), kCableLossBytes);
   }
+  return count;
 }
 
-// The getter answers for the antenna it was asked about, with zero values.
-std::vector<uint8_t> cableLossAnswer(const ApiCall& call) {
-  std::vector<uint8_t> answer(kCableLossBytes, 0);
-  putField(&answer, 0, fieldAt<uint16_t>(call.captured("cableLoss"), 0));
-  return answer;
+// Keeps each readable record under its antenna.
+void keepCableLossRecords(const ApiCall& call, int64_t handle, uint16_t captured) {
+  for (uint16_t i = 0; i < captured; ++i) {
+    const Blob& record = call.captured(cableLossName(i));
+    if (record.present && !record.faulted) keepCableLoss(handle, record.bytes);
+  }
 }
 
 }  // namespace
@@ -62,50 +71,65 @@ extern "C" {
 
 // Capabilities.
 
+// Without a script, a four-port reader (see reader_caps_default.h).
 int32_t RFID_GetReaderCapsW(int64_t handle, void* caps) {
   ApiCall call("RFID_GetReaderCapsW", handle, caps);
-  call.outputs({{caps, sim::kReaderCapsBytes, "caps"}});
+  call.outputs({{caps, sim::kReaderCapsBytes, "caps"}}, sim::defaultReaderCaps());
   return call.finish();
 }
 
-// Antennas.
+// Antennas. Without a scripted output, getters answer with what the
+// reader kept from successful sets (see antenna_settings.h).
 
 int32_t RFID_SetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t first, uint16_t second,
                               uint16_t third) {
   ApiCall call("RFID_SetAntennaConfig", handle, antennaID, first, second, third);
-  return call.finish();
+  const int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::keepAntennaIndices(handle, antennaID, first, second, third);
+  return status;
 }
 
 int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* first, uint16_t* second,
                               uint16_t* third) {
   ApiCall call("RFID_GetAntennaConfig", handle, antennaID, first, second, third);
-  call.outputs({{first, 2, "first"}, {second, 2, "second"}, {third, 2, "third"}});
+  call.outputs({{first, 2, "first"}, {second, 2, "second"}, {third, 2, "third"}},
+               sim::antennaIndicesOf(handle, antennaID));
   return call.finish();
 }
 
 int32_t RFID_GetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
   ApiCall call("RFID_GetAntennaRfConfig", handle, antennaID, config);
-  call.outputs({{config, sim::kAntennaRfConfigBytes, "config"}});
+  call.outputs({{config, sim::kAntennaRfConfigBytes, "config"}}, sim::antennaRfConfigOf(handle, antennaID));
   return call.finish();
 }
 
+// The whole block is captured; a NULL configuration is refused.
 int32_t RFID_SetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
   ApiCall call("RFID_SetAntennaRfConfig", handle, antennaID, config);
-  call.blob("config", config, sim::kAntennaRfConfigBytes);
-  return call.finish();
+  call.blob("config", config, sim::kAntennaRfConfigBlockBytes);
+  call.require(config);
+  const int32_t status = call.finish();
+  const sim::Blob& block = call.captured("config");
+  if (status == sim::kSuccess && block.present && !block.faulted) {
+    sim::keepAntennaRfConfig(handle, antennaID, block.bytes);
+  }
+  return status;
 }
 
 int32_t RFID_SetCableLossCompensation(int64_t handle, uint16_t count, void* records) {
   ApiCall call("RFID_SetCableLossCompensation", handle, count, records);
-  sim::captureCableLoss(call, count, records);
-  return call.finish();
+  const uint16_t captured = sim::captureCableLoss(call, count, records);
+  const int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::keepCableLossRecords(call, handle, captured);
+  return status;
 }
 
 int32_t RFID_GetCableLossCompensation(int64_t handle, void* record) {
   ApiCall call("RFID_GetCableLossCompensation", handle, record);
   call.blob("cableLoss", record, sim::kCableLossBytes);
   call.require(record);
-  call.outputs({{record, sim::kCableLossBytes}}, sim::cableLossAnswer(call));
+  const uint16_t antennaID = sim::fieldAt<uint16_t>(call.captured("cableLoss"), 0);
+  call.outputs({{record, sim::kCableLossBytes}}, sim::cableLossOf(handle, antennaID));
   return call.finish();
 }
 
@@ -117,24 +141,28 @@ int32_t RFID_GetPhysicalAntennaProperties(int64_t handle, uint16_t antennaID, ui
 
 int32_t RFID_SetAntennaMode(int64_t handle, uint32_t mode) {
   ApiCall call("RFID_SetAntennaMode", handle, mode);
-  return call.finish();
+  const int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::keepAntennaMode(handle, mode);
+  return status;
 }
 
 int32_t RFID_GetAntennaMode(int64_t handle, uint32_t* mode) {
   ApiCall call("RFID_GetAntennaMode", handle, mode);
-  call.outputs({{mode, 4, "mode"}});
+  call.outputs({{mode, 4, "mode"}}, sim::antennaModeOf(handle));
   return call.finish();
 }
 
 int32_t RFID_GetReadPointStatus(int64_t handle, uint16_t antennaID, uint8_t* status) {
   ApiCall call("RFID_GetReadPointStatus", handle, antennaID, status);
-  call.outputs({{status, 1, "status"}});
+  call.outputs({{status, 1, "status"}}, sim::readPointStatusOf(handle, antennaID));
   return call.finish();
 }
 
 int32_t RFID_EnableReadPoint(int64_t handle, uint16_t antennaID, uint8_t enable) {
   ApiCall call("RFID_EnableReadPoint", handle, antennaID, enable);
-  return call.finish();
+  const int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::keepReadPointEnabled(handle, antennaID, enable != 0);
+  return status;
 }
 
 // Radio.

@@ -1,0 +1,253 @@
+package com.kovra.rfid.orla;
+
+import static com.kovra.rfid.orla.TagDataTest.connect;
+import static com.kovra.rfid.orla.TagDataTest.fields;
+import static org.junit.jupiter.api.Assertions.assertArrayEquals;
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
+import static org.junit.jupiter.api.Assertions.assertNotEquals;
+import static org.junit.jupiter.api.Assertions.assertNull;
+import static org.junit.jupiter.api.Assertions.assertSame;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import com.kovra.rfid.orla.sim.Bytes;
+import com.kovra.rfid.orla.sim.Call;
+import com.kovra.rfid.orla.sim.SimControl;
+import org.junit.jupiter.api.Test;
+
+/** Antenna indices, RF configuration, cable loss, physical properties, antenna mode and read points. */
+class AntennaConfigTest extends NativeTest {
+
+    private static final short ANTENNA = (short) 0x8003;
+    private static final long ANTENNA_ARG = 0x8003L;
+    private static final int RF_BLOCK = 320;
+
+    @Test
+    void antennaIndicesGoOutAs16BitsAndComeBackWhateverTheStatus() {
+        int reader = connect();
+        assertEquals(0, ORLANatives.RFID_SetAntennaConfig(reader, ANTENNA, (short) -1, (short) 0x8001, (short) 2));
+        assertArrayEquals(new long[] {reader, ANTENNA_ARG, 0xFFFF, 0x8001, 2},
+                Call.last("RFID_SetAntennaConfig").args());
+
+        short[] first = {11};
+        short[] second = {12};
+        short[] third = {13};
+        SimControl.setOutput("RFID_GetAntennaConfig", new Bytes.Builder(6).u16(0, 0x8001).u16(2, 2).u16(4, 0xFFFF)
+                .build());
+        assertEquals(0, ORLANatives.RFID_GetAntennaConfig(reader, ANTENNA, first, second, third));
+        assertEquals(ANTENNA_ARG, Call.last("RFID_GetAntennaConfig").arg(1));
+        assertArrayEquals(new short[] {-32767, 2, -1}, new short[] {first[0], second[0], third[0]});
+
+        SimControl.setOutput("RFID_GetAntennaConfig", new Bytes.Builder(6).u16(0, 4).u16(2, 5).u16(4, 6).build());
+        SimControl.setStatus("RFID_GetAntennaConfig", 3);
+        assertEquals(3, ORLANatives.RFID_GetAntennaConfig(reader, ANTENNA, first, second, third));
+        assertArrayEquals(new short[] {4, 5, 6}, new short[] {first[0], second[0], third[0]},
+                "written even though the call failed");
+    }
+
+    @Test
+    void getRfConfigZeroExtendsAndWritesTheStopTriggerAsPlainInts() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetAntennaRfConfig", new Bytes.Builder(32).u16(0, 0xFFFF).u16(2, 2)
+                .u16(4, 0x8000).u16(6, 0xA5A5).u32(8, 0xFFFF_FFFFL).u32(12, 0x8000_0001L).u16(16, 0xFFFE).u16(18, 7)
+                .s32(20, 0xA5A5A5A5).s32(24, 3).u16(28, 0xFFFF).u16(30, 0xA5A5).build());
+        ANTENNA_RF_CONFIG config = new ANTENNA_RF_CONFIG();
+        ANTENNA_STOP_TRIGGER stop = config.antennaStopTrigger;
+        assertEquals(0, ORLANatives.RFID_GetAntennaRfConfig(reader, ANTENNA, config));
+        assertEquals(ANTENNA_ARG, Call.last("RFID_GetAntennaRfConfig").arg(1));
+
+        assertArrayEquals(new int[] {65535, 2, 32768, 65534, 7}, new int[] {config.transmitPowerIndex,
+            config.receiveSensitivityIndex, config.transmitFrequencyIndex, config.transmitPort, config.receivePort});
+        assertEquals(0xFFFF_FFFFL, config.rfModeTableIndex);
+        assertEquals(0x8000_0001L, config.tari);
+        assertSame(stop, config.antennaStopTrigger);
+        assertEquals(65535, stop.stopTriggerValue);
+        assertEquals(3, stop.enumstopTriggerType);
+        assertSame(ANTENNA_STOP_TRIGGER_TYPE.ANTENNA_STOP_TRIGGER_TYPE_NONE, stop.stopTriggerType,
+                "the enum object is only read, by the setter");
+
+        SimControl.setStatus("RFID_GetAntennaRfConfig", 4);
+        ANTENNA_RF_CONFIG kept = new ANTENNA_RF_CONFIG();
+        assertEquals(4, ORLANatives.RFID_GetAntennaRfConfig(reader, ANTENNA, kept));
+        assertArrayEquals(new long[] {0, 0, 0, 0, 0}, new long[] {kept.transmitPowerIndex, kept.rfModeTableIndex,
+            kept.tari, kept.antennaStopTrigger.stopTriggerValue, kept.antennaStopTrigger.enumstopTriggerType});
+    }
+
+    @Test
+    void setRfConfigTruncatesIntoAZeroedBlockAndReadsTheEnumObject() {
+        int reader = connect();
+        ANTENNA_RF_CONFIG config = new ANTENNA_RF_CONFIG();
+        config.transmitPowerIndex = 0x1_FFFF;
+        config.receiveSensitivityIndex = -2;
+        config.transmitFrequencyIndex = 0x1_2345;
+        config.rfModeTableIndex = 0x1_0000_0002L;
+        config.tari = -1L;
+        config.transmitPort = 0x1_0001;
+        config.receivePort = 65535;
+        config.antennaStopTrigger.stopTriggerValue = 0x2_0003;
+        config.antennaStopTrigger.stopTriggerType = ANTENNA_STOP_TRIGGER_TYPE.ANTENNA_STOP_TRIGGER_TYPE_N_ATTEMPTS;
+        config.antennaStopTrigger.enumstopTriggerType = 7;
+        assertEquals(0, ORLANatives.RFID_SetAntennaRfConfig(reader, ANTENNA, config));
+
+        Call call = Call.last("RFID_SetAntennaRfConfig");
+        assertEquals(ANTENNA_ARG, call.arg(1));
+        byte[] block = call.blob("config");
+        assertEquals(RF_BLOCK, block.length);
+        assertArrayEquals(new long[] {0xFFFF, 0xFFFE, 0x2345, 0, 2, 0xFFFF_FFFFL, 1, 0xFFFF, 0, 2, 3, 0},
+                fields(block, 0, 2, 2, 2, 4, 2, 6, 2, 8, 4, 12, 4, 16, 2, 18, 2, 20, 4, 24, 4, 28, 2, 30, 2));
+        for (int i = 32; i < RF_BLOCK; i++) {
+            assertEquals(0, block[i], "byte " + i + " of the block");
+        }
+
+        assertEquals(2, ORLANatives.RFID_SetAntennaRfConfig(reader, ANTENNA, null),
+                "the simulator refuses a NULL configuration");
+        call = Call.last("RFID_SetAntennaRfConfig");
+        assertEquals(0L, call.arg(2));
+        assertNull(call.blob("config"));
+    }
+
+    private static CABLE_LOSS_COMPENSATION cableLoss(int antenna, float length, float loss) {
+        CABLE_LOSS_COMPENSATION c = new CABLE_LOSS_COMPENSATION();
+        c.antennaID = (short) antenna;
+        c.cableLengthInFt = length;
+        c.cableLossPer100Ft = loss;
+        return c;
+    }
+
+    @Test
+    void cableLossRecordsGoOutOnePointerEachAndTheCountAsGiven() {
+        int reader = connect();
+        CABLE_LOSS_COMPENSATION[] list = {cableLoss(-3, 12.5f, -0.75f), cableLoss(2, Float.MAX_VALUE, 0f),
+            cableLoss(0x7FFF, Float.MIN_VALUE, 1e-3f)};
+        assertEquals(0, ORLANatives.RFID_SetCableLossCompensation(reader, (short) 3, list));
+        Call call = Call.last("RFID_SetCableLossCompensation");
+        assertEquals(3L, call.arg(1));
+        assertEquals(24, call.blob("cableLoss").length);
+        for (int i = 0; i < 3; i++) {
+            byte[] r = call.blob("cableLoss[" + i + "]");
+            assertEquals(list[i].antennaID & 0xFFFF, Bytes.u16(r, 0), "record " + i);
+            assertEquals(0, Bytes.u16(r, 2), "record " + i + " padding");
+            assertEquals(Float.floatToRawIntBits(list[i].cableLengthInFt), Bytes.s32(r, 4), "record " + i);
+            assertEquals(Float.floatToRawIntBits(list[i].cableLossPer100Ft), Bytes.s32(r, 8), "record " + i);
+        }
+
+        assertEquals(0, ORLANatives.RFID_SetCableLossCompensation(reader, (short) 1, list));
+        assertEquals(1L, Call.last("RFID_SetCableLossCompensation").arg(1), "not the array's length");
+
+        assertEquals(0, ORLANatives.RFID_SetCableLossCompensation(reader, (short) 0,
+                new CABLE_LOSS_COMPENSATION[0]));
+        call = Call.last("RFID_SetCableLossCompensation");
+        assertEquals(3, SimControl.count("RFID_SetCableLossCompensation"), "an empty array is still sent");
+        assertNotEquals(0L, call.arg(2));
+        assertEquals(0, call.blob("cableLoss").length);
+    }
+
+    @Test
+    void getCableLossSendsTheAntennaAndWritesBothFloatsOnlyOnSuccess() {
+        int reader = connect();
+        SimControl.setOutput("RFID_GetCableLossCompensation", new Bytes.Builder(12).u16(0, 9).f32(4, 33.25f)
+                .f32(8, -1.5f).build());
+        CABLE_LOSS_COMPENSATION c = cableLoss(-3, 1f, 2f);
+        assertEquals(0, ORLANatives.RFID_GetCableLossCompensation(reader, c));
+        assertArrayEquals(new Bytes.Builder(12).u16(0, 0xFFFD).build(),
+                SimControl.blob("RFID_GetCableLossCompensation", -1, "cableLoss"), "a zeroed record with the antenna");
+        assertEquals(33.25f, c.cableLengthInFt);
+        assertEquals(-1.5f, c.cableLossPer100Ft);
+        assertEquals(-3, c.antennaID, "the antenna is not written back");
+
+        SimControl.setStatus("RFID_GetCableLossCompensation", 6);
+        CABLE_LOSS_COMPENSATION kept = cableLoss(1, 1f, 2f);
+        assertEquals(6, ORLANatives.RFID_GetCableLossCompensation(reader, kept));
+        assertEquals(1f, kept.cableLengthInFt);
+        assertEquals(2f, kept.cableLossPer100Ft);
+    }
+
+    /** The scalar getters: presets, zero-extended antenna, element 0 on success only. */
+    @Test
+    void scalarGettersWriteElementZeroOnlyOnSuccess() {
+        int reader = connect();
+        boolean[] flag = {false};
+        int[] value = {-9};
+        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 1).s32(1, -5).build());
+        assertEquals(0, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
+        assertEquals(ANTENNA_ARG, Call.last("RFID_GetPhysicalAntennaProperties").arg(1));
+        assertTrue(flag[0]);
+        assertEquals(-5, value[0]);
+
+        int[] mode = {-9};
+        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 0x8000_0001L).build());
+        assertEquals(0, ORLANatives.RFID_GetAntennaMode(reader, mode));
+        assertArrayEquals(new byte[4], SimControl.blob("RFID_GetAntennaMode", -1, "mode"), "preset to 0");
+        assertEquals(0x8000_0001, mode[0]);
+
+        boolean[] enabled = {false};
+        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {1});
+        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
+        assertEquals(ANTENNA_ARG, Call.last("RFID_GetReadPointStatus").arg(1));
+        assertArrayEquals(new byte[1], SimControl.blob("RFID_GetReadPointStatus", -1, "status"), "preset to 0");
+        assertTrue(enabled[0]);
+
+        for (String fn : new String[] {"RFID_GetPhysicalAntennaProperties", "RFID_GetAntennaMode",
+            "RFID_GetReadPointStatus"}) {
+            SimControl.setStatus(fn, 8);
+        }
+        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 0).s32(1, 77).build());
+        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 77).build());
+        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {0});
+        assertEquals(8, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
+        assertEquals(8, ORLANatives.RFID_GetAntennaMode(reader, mode));
+        assertEquals(8, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
+        assertTrue(flag[0]);
+        assertEquals(-5, value[0]);
+        assertEquals(0x8000_0001, mode[0]);
+        assertTrue(enabled[0]);
+    }
+
+    @Test
+    void settersPassTheModeOrdinalAndANormalisedEnableFlag() {
+        int reader = connect();
+        assertEquals(0, ORLANatives.RFID_SetAntennaMode(reader, ANTENNA_MODE.ANTENNA_MODE_BISTATIC));
+        assertEquals(1L, Call.last("RFID_SetAntennaMode").arg(1));
+        assertEquals(0, ORLANatives.RFID_SetAntennaMode(reader, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
+        assertEquals(0L, Call.last("RFID_SetAntennaMode").arg(1));
+
+        assertEquals(0, ORLANatives.RFID_EnableReadPoint(reader, ANTENNA, true));
+        assertArrayEquals(new long[] {reader, ANTENNA_ARG, 1}, Call.last("RFID_EnableReadPoint").args());
+        assertEquals(0, ORLANatives.RFID_EnableReadPoint(reader, (short) 1, false));
+        assertArrayEquals(new long[] {reader, 1, 0}, Call.last("RFID_EnableReadPoint").args());
+    }
+
+    /** Without scripts the simulated reader answers with what was set on it. */
+    @Test
+    void simulatedReaderKeepsWhatWasSet() {
+        int reader = connect();
+        ORLANatives.RFID_SetAntennaConfig(reader, (short) 2, (short) 10, (short) 20, (short) 30);
+        short[][] indices = {new short[1], new short[1], new short[1]};
+        assertEquals(0, ORLANatives.RFID_GetAntennaConfig(reader, (short) 2, indices[0], indices[1], indices[2]));
+        assertArrayEquals(new short[] {10, 20, 30}, new short[] {indices[0][0], indices[1][0], indices[2][0]});
+
+        ANTENNA_RF_CONFIG config = new ANTENNA_RF_CONFIG();
+        config.tari = 12_500;
+        ORLANatives.RFID_SetAntennaRfConfig(reader, (short) 2, config);
+        ANTENNA_RF_CONFIG got = new ANTENNA_RF_CONFIG();
+        assertEquals(0, ORLANatives.RFID_GetAntennaRfConfig(reader, (short) 2, got));
+        assertEquals(12_500L, got.tari);
+
+        boolean[] enabled = {false};
+        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
+        assertTrue(enabled[0], "read points start enabled");
+        ORLANatives.RFID_EnableReadPoint(reader, (short) 2, false);
+        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
+        assertFalse(enabled[0]);
+    }
+
+    @Test
+    void handleIsSignExtendedAndTheStatusReturnedAsIs() {
+        assertEquals(1, ORLANatives.RFID_SetAntennaMode(-2, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
+        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, Call.last("RFID_SetAntennaMode").arg(0));
+        SimControl.setStatus("RFID_SetAntennaConfig", -40);
+        assertEquals(-40, ORLANatives.RFID_SetAntennaConfig(Integer.MIN_VALUE, (short) 0, (short) 0, (short) 0,
+                (short) 0));
+        assertEquals(0xFFFF_FFFF_8000_0000L, Call.last("RFID_SetAntennaConfig").arg(0));
+    }
+}
