@@ -7,13 +7,11 @@
 #include <cstring>
 #include <cwchar>
 
+#include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
-#include "tags/system_time.h"
 
 namespace {
-
-constexpr const char* kSystemTimeSignature = "Lcom/kovra/rfid/orla/SYSTEMTIME;";
 
 // Characters of each text area: two per byte plus the terminator, so
 // renderings of up to 2,047 bytes fit.

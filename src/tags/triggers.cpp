@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
+#include "bridge/system_time.h"
 #include "jni_fields.h"
 #include "tags/enum_field.h"
-#include "tags/system_time.h"
 
 namespace {
 
@@ -75,7 +75,7 @@ void fillStartValue(JNIEnv* env, jobject value, START_TRIGGER* record, StartTime
       jobject periodic = getJobjectFromJobject(env, value, "periodic", "Lcom/kovra/rfid/orla/PERIODIC_TRIGGER;");
       v.periodic.periodMilliseconds = intField(env, periodic, "periodMilliseconds");
       if (startTime == StartTime::OwnRecord) v.periodic.startTime = new SYSTEMTIME();
-      jobject time = getJobjectFromJobject(env, periodic, "startTime", "Lcom/kovra/rfid/orla/SYSTEMTIME;");
+      jobject time = getJobjectFromJobject(env, periodic, "startTime", kSystemTimeSignature);
       getSystemTimeFromJobject(env, time, v.periodic.startTime);
       break;
     }
@@ -90,7 +90,7 @@ void fillStartValue(JNIEnv* env, jobject value, START_TRIGGER* record, StartTime
           getJobjectFromJobject(env, value, "timelapse", "Lcom/kovra/rfid/orla/TIMELAPSE_START_TRIGGER;");
       v.timelapse.period = intField(env, timelapse, "period");
       if (startTime == StartTime::OwnRecord) v.timelapse.startTime = new TIMEOFDAY();
-      jobject time = getJobjectFromJobject(env, timelapse, "startTime", "Lcom/kovra/rfid/orla/TIMEOFDAY;");
+      jobject time = getJobjectFromJobject(env, timelapse, "startTime", kTimeOfDaySignature);
       getTimeOfDayFromJobject(env, time, v.timelapse.startTime);
       break;
     }

@@ -11,6 +11,11 @@
 #include "jni_fields.h"
 #include "reader_api.h"
 
+// Descriptors of the two Java mirrors, for fetching them from the objects
+// that hold them.
+inline constexpr const char* kSystemTimeSignature = "Lcom/kovra/rfid/orla/SYSTEMTIME;";
+inline constexpr const char* kTimeOfDaySignature = "Lcom/kovra/rfid/orla/TIMEOFDAY;";
+
 inline void setSystemTimeInJobject(JNIEnv* env, jobject time, const SYSTEMTIME& record) {
   setShortInJobject(env, time, "Year", static_cast<short>(record.Year));
   setShortInJobject(env, time, "Month", static_cast<short>(record.Month));
