@@ -7,9 +7,9 @@
 #include <cstdint>
 
 #include "access/param_fields.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/enum_field.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/enum_field.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 #include <cstdint>
 #include <new>
 
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/enum_field.h"
 
 namespace {
 
@@ -190,8 +190,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetPhysicalAnt
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetAntennaMode(JNIEnv* env, jclass,
                                                                                 jint readerHandle,
                                                                                 jobject antennaMode) {
-  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle),
-                             static_cast<uint32_t>(getEnumValueFromJobject(env, antennaMode, 0)));
+  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, antennaMode));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetAntennaMode(JNIEnv* env, jclass,

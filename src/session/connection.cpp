@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "bridge/conversions.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
@@ -63,8 +64,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Connect(JNIEnv
   orla::PinnedArray<jlongArray> handle(env, handleOut);
 
   CONNECTION_INFO info = {};
-  jobject version = getJobjectFromJobject(env, connInfo, "version", kRfidVersionSignature);
-  info.version = static_cast<uint32_t>(getEnumValueFromJobject(env, version, 0));
+  info.version = getEnumFieldFromJobject(env, connInfo, "version", kRfidVersionSignature);
   info.secConnInfo = newSecConnectionInfo(env, connInfo);
 
   READER_HANDLE slot = 0;

@@ -5,12 +5,12 @@
 #include <cstdint>
 
 #include "bridge/conversions.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 #include "session/string_field.h"
-#include "tags/enum_field.h"
 
 namespace {
 

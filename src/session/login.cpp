@@ -6,12 +6,12 @@
 #include <memory>
 
 #include "bridge/conversions.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 #include "session/string_field.h"
-#include "tags/enum_field.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
     record->forceLogin = getBoolFromJobject(env, loginInfo, "forceLogin") ? 1 : 0;
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
   }
-  const auto kind = static_cast<uint32_t>(getEnumValueFromJobject(env, readerType, 0));
+  const uint32_t kind = ordinalOf(env, readerType);
 
   READER_HANDLE slot = 0;
   const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, flag != JNI_FALSE ? 1 : 0, nullptr);

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/enum_field.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* r
   }
   for (uint32_t i = 0; i < record->length; ++i) {
     jobject qualifier = env->GetObjectArrayElement(qualifiers, static_cast<jsize>(i));
-    record->antennaOpList[i] = static_cast<uint32_t>(getEnumValueFromJobject(env, qualifier, 0));
+    record->antennaOpList[i] = ordinalOf(env, qualifier);
   }
 }
 

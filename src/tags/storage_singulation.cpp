@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
+#include "bridge/enum_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 #include "reader_api.h"
 
 namespace {

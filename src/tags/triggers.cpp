@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
+#include "bridge/enum_field.h"
 #include "bridge/system_time.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 
 namespace {
 
@@ -32,10 +32,6 @@ enum : uint32_t {
 // what the caller preset in the record, or to a zeroed record of the
 // entry's own (extra triggers).
 enum class StartTime { Preset, OwnRecord };
-
-uint32_t ordinalOf(JNIEnv* env, jobject enumObject) {
-  return static_cast<uint32_t>(getEnumValueFromJobject(env, enumObject, 0));
-}
 
 uint32_t intField(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint32_t>(getIntFromJobject(env, object, name));
