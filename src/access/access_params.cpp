@@ -2,6 +2,7 @@
 // the order each record lists them below; a record that is not zeroed keeps
 // whatever its padding and reserved bytes held.
 #include "access/access_params.h"
+#include "bridge/c_bool.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -95,7 +96,7 @@ BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject para
   record->byteOffset = getWordFromJobject(env, params, "byteOffset");
   record->byteCount = getWordFromJobject(env, params, "byteCount");
   record->maskLength = getWordFromJobject(env, params, "maskLength");
-  record->readLock = getFlagFromJobject(env, params, "readLock");
+  record->readLock = getCBoolFromJobject(env, params, "readLock");
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
   return record;
@@ -150,7 +151,7 @@ NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_SET_EAS_PARAMS();
   record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
-  record->EASState = getFlagFromJobject(env, params, "EASState");
+  record->EASState = getCBoolFromJobject(env, params, "EASState");
   return record;
 }
 
@@ -166,7 +167,7 @@ IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_WRITE_PARAMS();
   record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
-  record->qtPersist = getFlagFromJobject(env, params, "qtPersist");
+  record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
   record->qtControlData = getWordFromJobject(env, qtData, "qtControlData");
   return record;
@@ -183,8 +184,8 @@ IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
 AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new AUTHENTICATE_PARAMS();
-  record->sendRsp = getFlagFromJobject(env, params, "sendRsp");
-  record->incRespLen = getFlagFromJobject(env, params, "incRespLen");
+  record->sendRsp = getCBoolFromJobject(env, params, "sendRsp");
+  record->incRespLen = getCBoolFromJobject(env, params, "incRespLen");
   record->CSI = getByteFromJobject(env, params, "CSI");
   record->length = getWordFromJobject(env, params, "length");
   record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
@@ -194,10 +195,10 @@ AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
 
 void fillUntraceableParams(JNIEnv* env, jobject params, UNTRACEABLE_PARAMS* record) {
   *record = UNTRACEABLE_PARAMS();
-  record->assertU = getFlagFromJobject(env, params, "assertU");
-  record->hideEPC = getFlagFromJobject(env, params, "hideEPC");
+  record->assertU = getCBoolFromJobject(env, params, "assertU");
+  record->hideEPC = getCBoolFromJobject(env, params, "hideEPC");
   record->EPCLength = getByteFromJobject(env, params, "EPCLength");
-  record->hideUser = getFlagFromJobject(env, params, "hideUser");
+  record->hideUser = getCBoolFromJobject(env, params, "hideUser");
   record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
   record->hideTID = getEnumFieldFromJobject(env, params, "hideTID", kTidHideStateSignature);
   record->operatingRange = getEnumFieldFromJobject(env, params, "operatingRange", kOperatingRangeSignature);
@@ -214,7 +215,7 @@ CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new CRYPTO_PARAMS();
   record->keyID = getByteFromJobject(env, params, "keyID");
-  record->customData = getFlagFromJobject(env, params, "customData");
+  record->customData = getCBoolFromJobject(env, params, "customData");
   record->profile = getByteFromJobject(env, params, "profile");
   record->offset = getByteFromJobject(env, params, "offset");
   record->blockCount = getByteFromJobject(env, params, "blockCount");

@@ -1,6 +1,7 @@
 // Fields of Java parameter objects as the tag access records store them:
 // passwords as the low 32 bits of a Java long, Java shorts and bytes as the
-// same 16 and 8 bits, booleans as one byte, 1 or 0.
+// same 16 and 8 bits. Booleans go through getCBoolFromJobject
+// (bridge/c_bool.h).
 #pragma once
 
 #include <jni.h>
@@ -8,7 +9,6 @@
 #include <cstdint>
 
 #include "jni_fields.h"
-#include "reader_api.h"
 
 inline uint32_t getPasswordFromJobject(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint32_t>(getLongFromJobject(env, object, name));
@@ -16,10 +16,6 @@ inline uint32_t getPasswordFromJobject(JNIEnv* env, jobject object, const char* 
 
 inline uint16_t getWordFromJobject(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint16_t>(getShortFromJobject(env, object, name));
-}
-
-inline RFID_BOOL getFlagFromJobject(JNIEnv* env, jobject object, const char* name) {
-  return getBoolFromJobject(env, object, name) ? 1 : 0;
 }
 
 // A Java byte field ("B"), read with the same three JNI calls as the shared

@@ -1,6 +1,7 @@
 // Parameter records of access-sequence operations, filled through the
 // shared field accessors.
 #include "access/sequence_params.h"
+#include "bridge/c_bool.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -51,10 +52,6 @@ uint16_t unsignedShortFrom(JNIEnv* env, jobject params, const char* name) {
   return static_cast<uint16_t>(getShortFromJobject(env, params, name));
 }
 
-RFID_BOOL boolFrom(JNIEnv* env, jobject params, const char* name) {
-  return getBoolFromJobject(env, params, name) ? 1 : 0;
-}
-
 // Read and block erase share their fields.
 template <class Record>
 void fillMemoryRange(JNIEnv* env, jobject params, Record* record) {
@@ -103,7 +100,7 @@ void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARA
   record->byteOffset = unsignedShortFrom(env, params, "byteOffset");
   record->byteCount = unsignedShortFrom(env, params, "byteCount");
   record->maskLength = unsignedShortFrom(env, params, "maskLength");
-  record->readLock = boolFrom(env, params, "readLock");
+  record->readLock = getCBoolFromJobject(env, params, "readLock");
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
 }
@@ -117,12 +114,12 @@ void fillAccessPassword(JNIEnv* env, jobject params, Record* record) {
 
 void fillNxpSetEas(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
   record->accessPassword = passwordFrom(env, params, "accessPassword");
-  record->EASState = boolFrom(env, params, "EASState");
+  record->EASState = getCBoolFromJobject(env, params, "EASState");
 }
 
 void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
   record->accessPassword = passwordFrom(env, params, "accessPassword");
-  record->qtPersist = boolFrom(env, params, "qtPersist");
+  record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
   record->qtControlData = unsignedShortFrom(env, qtData, "qtControlData");
 }

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <new>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
@@ -220,7 +221,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetReadPointSt
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1EnableReadPoint(JNIEnv*, jclass, jint readerHandle,
                                                                                  jshort antennaID, jboolean enable) {
   return RFID_EnableReadPoint(static_cast<READER_HANDLE>(readerHandle), static_cast<uint16_t>(antennaID),
-                              enable != JNI_FALSE ? 1 : 0);
+                              toCBool(enable));
 }
 
 }  // extern "C"

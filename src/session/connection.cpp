@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
@@ -33,8 +34,8 @@ SEC_CONNECTION_INFO* newSecConnectionInfo(JNIEnv* env, jobject connInfo) {
   if (secure == nullptr || !getBoolFromJobject(env, secure, "secureMode")) return nullptr;
 
   auto* record = new SEC_CONNECTION_INFO();
-  record->secureMode = getBoolFromJobject(env, secure, "secureMode") ? 1 : 0;
-  record->validatePeerCert = getBoolFromJobject(env, secure, "validatePeerCert") ? 1 : 0;
+  record->secureMode = getCBoolFromJobject(env, secure, "secureMode");
+  record->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
   copySizedBuffer(env, secure, "sizeCertBuff", "clientCertBuff", record->sizeCertBuff, record->clientCertBuff);
   copySizedBuffer(env, secure, "sizeKeyBuff", "clientKeyBuff", record->sizeKeyBuff, record->clientKeyBuff);
   copySizedBuffer(env, secure, "sizePhraseBuff", "phraseBuff", record->sizePhraseBuff, record->phraseBuff);

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cwchar>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
@@ -132,7 +133,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_rfidUtils_1WaitForMu
   for (jint i = 0; i < count; ++i) handles[i] = pinned[i];
 
   const int32_t result =
-      rfidUtils_WaitForMultipleObjects(count, handles, waitAll != JNI_FALSE ? 1 : 0, timeoutMilliseconds);
+      rfidUtils_WaitForMultipleObjects(count, handles, toCBool(waitAll), timeoutMilliseconds);
   if (pinned != nullptr) env->ReleaseLongArrayElements(eventHandles, pinned, 0);
   delete[] handles;
   return result;

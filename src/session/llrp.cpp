@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
@@ -47,7 +48,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
                                                                                          jint readerHandle,
                                                                                          jobject config) {
   LLRP_CONNECTION_CONFIG record = {};
-  record.isClient = getBoolFromJobject(env, config, "isClient") ? 1 : 0;
+  record.isClient = getCBoolFromJobject(env, config, "isClient");
   jstring host = getStringFromJobject(env, config, "hostServerIP");
   if (host != nullptr) {
     // Fetched once and deliberately never released, as login does.
@@ -60,8 +61,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
   if (getBoolFromJobject(env, secure, "secureMode")) {
     // Deliberately never freed: the secure record outlives this call.
     record.pSecureModeConfig = new SEC_LLRP_CONFIG();
-    record.pSecureModeConfig->secureMode = getBoolFromJobject(env, secure, "secureMode") ? 1 : 0;
-    record.pSecureModeConfig->validatePeerCert = getBoolFromJobject(env, secure, "validatePeerCert") ? 1 : 0;
+    record.pSecureModeConfig->secureMode = getCBoolFromJobject(env, secure, "secureMode");
+    record.pSecureModeConfig->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
   }
   return RFID_SetLLRPConnectionConfigW(static_cast<READER_HANDLE>(readerHandle), &record);
 }

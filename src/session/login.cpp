@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "bridge/c_bool.h"
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
@@ -46,13 +47,13 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
       static_cast<void>(env->GetStringUTFChars(value, nullptr));
       JavaToWSZ(env, value, text.buffer);
     }
-    record->forceLogin = getBoolFromJobject(env, loginInfo, "forceLogin") ? 1 : 0;
+    record->forceLogin = getCBoolFromJobject(env, loginInfo, "forceLogin");
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
   }
   const uint32_t kind = ordinalOf(env, readerType);
 
   READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, flag != JNI_FALSE ? 1 : 0, nullptr);
+  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, toCBool(flag), nullptr);
   if (status == 0) handle[0] = slot;
   record.reset();
   handle.release();  // mode 0, whatever the status

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
@@ -13,10 +14,6 @@ namespace {
 
 constexpr const char* kStateAwareSingulationActionSignature =
     "Lcom/kovra/rfid/orla/STATE_AWARE_SINGULATION_ACTION;";
-
-RFID_BOOL boolField(JNIEnv* env, jobject object, const char* name) {
-  return getBoolFromJobject(env, object, name) ? 1 : 0;
-}
 
 }  // namespace
 
@@ -45,8 +42,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetTagStorageS
   record.maxMemoryBankByteCount = static_cast<uint32_t>(getIntFromJobject(env, settings, "maxMemoryBankByteCount"));
   record.maxTagIDByteCount = static_cast<uint32_t>(getIntFromJobject(env, settings, "maxTagIDByteCount"));
   record.tagFields = static_cast<uint16_t>(getShortFromJobject(env, settings, "tagFields"));
-  record.enableAccessReports = boolField(env, settings, "enableAccessReports");
-  record.discardTagsOnInventoryStop = boolField(env, settings, "discardTagsOnInventoryStop");
+  record.enableAccessReports = getCBoolFromJobject(env, settings, "enableAccessReports");
+  record.discardTagsOnInventoryStop = getCBoolFromJobject(env, settings, "discardTagsOnInventoryStop");
   return RFID_SetTagStorageSettings(static_cast<READER_HANDLE>(readerHandle), &record);
 }
 
@@ -83,7 +80,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetSingulation
   record.session = getEnumFieldFromJobject(env, control, "session", "Lcom/kovra/rfid/orla/SESSION;");
   jobject action = getJobjectFromJobject(env, control, "stateAwareSingulationAction",
                                          kStateAwareSingulationActionSignature);
-  record.perform = boolField(env, action, "perform");
+  record.perform = getCBoolFromJobject(env, action, "perform");
   record.inventoryState = getEnumFieldFromJobject(env, action, "inventoryState", "Lcom/kovra/rfid/orla/INVENTORY_STATE;");
   record.slFlag = getEnumFieldFromJobject(env, action, "slFlag", "Lcom/kovra/rfid/orla/SL_FLAG;");
   return RFID_SetSingulationControl(static_cast<READER_HANDLE>(readerHandle), static_cast<uint16_t>(antennaID),

@@ -1,4 +1,5 @@
 // Start, stop, report and extra triggers.
+#include "bridge/c_bool.h"
 #include "tags/triggers.h"
 
 #include <cstdint>
@@ -43,7 +44,7 @@ uint16_t shortField(JNIEnv* env, jobject object, const char* name) {
 
 void fillGpi(JNIEnv* env, jobject gpi, GPI_TRIGGER* record) {
   record->portNumber = shortField(env, gpi, "portNumber");
-  record->eventInfo = getBoolFromJobject(env, gpi, "eventInfo") ? 1 : 0;
+  record->eventInfo = getCBoolFromJobject(env, gpi, "eventInfo");
   record->timeoutMilliseconds = intField(env, gpi, "timeoutMilliseconds");
 }
 
