@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "bridge/conversions.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "config/info_text_fields.h"
 #include "jni_fields.h"

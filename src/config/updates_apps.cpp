@@ -6,6 +6,7 @@
 
 #include "bridge/conversions.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "config/info_text_fields.h"
 #include "config/profile_name_buffer.h"

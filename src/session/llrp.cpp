@@ -8,10 +8,10 @@
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "session/string_field.h"
 
 namespace {
 

@@ -9,20 +9,14 @@
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "session/string_field.h"
 
 namespace {
 
 constexpr const char* kRfidVersionSignature = "Lcom/kovra/rfid/orla/RFID_VERSION;";
-
-// A text field of the login object and the record's buffer it goes into.
-struct LoginText {
-  const char* field;
-  wchar_t* buffer;
-};
 
 }  // namespace
 
@@ -38,14 +32,14 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
   std::unique_ptr<LOGIN_INFO> record;
   if (loginInfo != nullptr) {
     record = std::make_unique<LOGIN_INFO>();  // all zero
-    const LoginText texts[] = {
+    const TextField fields[] = {
         {"hostName", record->hostName}, {"userName", record->userName}, {"password", record->password}};
-    for (const LoginText& text : texts) {
-      jstring value = getStringFromJobject(env, loginInfo, text.field);
+    for (const TextField& field : fields) {
+      jstring value = getStringFromJobject(env, loginInfo, field.name);
       if (value == nullptr) continue;
       // Fetched once and deliberately never released: login keeps this leak as it stands.
       static_cast<void>(env->GetStringUTFChars(value, nullptr));
-      JavaToWSZ(env, value, text.buffer);
+      JavaToWSZ(env, value, field.text);
     }
     record->forceLogin = getCBoolFromJobject(env, loginInfo, "forceLogin");
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
