@@ -11,6 +11,7 @@
 #include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/scalar_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -19,24 +20,6 @@ namespace {
 
 constexpr const char* kAntennaStopTriggerSignature = "Lcom/kovra/rfid/orla/ANTENNA_STOP_TRIGGER;";
 constexpr const char* kAntennaStopTriggerTypeSignature = "Lcom/kovra/rfid/orla/ANTENNA_STOP_TRIGGER_TYPE;";
-
-void setLongInJobject(JNIEnv* env, jobject object, const char* name, jlong value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "J");
-  env->SetLongField(object, field, value);
-}
-
-jfloat getFloatFromJobject(JNIEnv* env, jobject object, const char* name) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "F");
-  return env->GetFloatField(object, field);
-}
-
-void setFloatInJobject(JNIEnv* env, jobject object, const char* name, jfloat value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "F");
-  env->SetFloatField(object, field, value);
-}
 
 uint16_t uint16Field(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint16_t>(getIntFromJobject(env, object, name));

@@ -1,5 +1,6 @@
 // Writing tag records into Java tag objects, and the tag records that Java
 // holds between calls.
+#include "bridge/scalar_fields.h"
 #include "tags/tag_data.h"
 
 #include <cstdint>
@@ -49,12 +50,6 @@ void storeText(JNIEnv* env, jobject object, const char* name, const wchar_t* tex
   env->SetObjectField(object, field, env->NewStringUTF(multibyte));
 }
 
-void setLongInJobject(JNIEnv* env, jobject object, const char* name, uint64_t value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "J");
-  env->SetLongField(object, field, static_cast<jlong>(value));
-}
-
 void setSeenTime(JNIEnv* env, jobject tagData, const TAG_DATA& tag, bool utcTime) {
   jobject seenTime = getJobjectFromJobject(env, tagData, "seenTime", "Lcom/kovra/rfid/orla/SEEN_TIME;");
   if (utcTime) {
@@ -65,8 +60,8 @@ void setSeenTime(JNIEnv* env, jobject tagData, const TAG_DATA& tag, bool utcTime
                            tag.seenTime.utcTime.lastSeenTimeStamp);
   } else {
     jobject upTime = getJobjectFromJobject(env, seenTime, "upTime", "Lcom/kovra/rfid/orla/UP_TIME;");
-    setLongInJobject(env, upTime, "firstSeenTimeStamp", tag.seenTime.upTime.firstSeenTimeStamp);
-    setLongInJobject(env, upTime, "lastSeenTimeStamp", tag.seenTime.upTime.lastSeenTimeStamp);
+    setLongInJobject(env, upTime, "firstSeenTimeStamp", static_cast<jlong>(tag.seenTime.upTime.firstSeenTimeStamp));
+    setLongInJobject(env, upTime, "lastSeenTimeStamp", static_cast<jlong>(tag.seenTime.upTime.lastSeenTimeStamp));
   }
 }
 
