@@ -3,11 +3,11 @@
 // whatever its padding and reserved bytes held.
 #include "access/access_params.h"
 #include "bridge/c_bool.h"
+#include "bridge/unsigned_fields.h"
 
 #include <cstddef>
 #include <cstdint>
 
-#include "access/param_fields.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "jni_fields.h"
@@ -33,19 +33,19 @@ uint8_t* newByteCopy(JNIEnv* env, jobject object, const char* name, uint16_t cou
 READ_ACCESS_PARAMS* fillReadParams(JNIEnv* env, jobject params, READ_ACCESS_PARAMS* record) {
   if (params == nullptr) return nullptr;
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
-  record->byteCount = getWordFromJobject(env, params, "byteCount");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->byteCount = getUint16FromJobject(env, params, "byteCount");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   return record;
 }
 
 WRITE_ACCESS_PARAMS* newWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new WRITE_ACCESS_PARAMS();
-  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
-  const uint16_t length = getWordFromJobject(env, params, "writeDataLength");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  const uint16_t length = getUint16FromJobject(env, params, "writeDataLength");
   record->writeDataLength = length;
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->writeData = newByteCopy(env, params, "writeData", length);
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
   return record;
@@ -62,9 +62,9 @@ BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new BLOCK_ERASE_ACCESS_PARAMS;
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
-  record->byteCount = getWordFromJobject(env, params, "byteCount");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->byteCount = getUint16FromJobject(env, params, "byteCount");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   return record;
 }
 
@@ -73,7 +73,7 @@ BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
 LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new LOCK_ACCESS_PARAMS;
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   auto* privileges = new uint16_t[kLockPrivilegeCount];
   getShortArrayInJobject(env, params, "enumPrivilege", privileges, kLockPrivilegeCount);
   for (size_t i = 0; i < kLockPrivilegeCount; ++i) record->enumPrivilege[i] = privileges[i];
@@ -84,7 +84,7 @@ LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
 KILL_ACCESS_PARAMS* newKillParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new KILL_ACCESS_PARAMS;
-  record->killPassword = getPasswordFromJobject(env, params, "killPassword");
+  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
   return record;
 }
 
@@ -92,10 +92,10 @@ BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject para
   if (params == nullptr) return nullptr;
   auto* record = new BLOCK_PERMALOCK_ACCESS_PARAMS;
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
-  record->byteOffset = getWordFromJobject(env, params, "byteOffset");
-  record->byteCount = getWordFromJobject(env, params, "byteCount");
-  record->maskLength = getWordFromJobject(env, params, "maskLength");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->byteCount = getUint16FromJobject(env, params, "byteCount");
+  record->maskLength = getUint16FromJobject(env, params, "maskLength");
   record->readLock = getCBoolFromJobject(env, params, "readLock");
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
@@ -112,7 +112,7 @@ void deleteBlockPermalockParams(BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
 RECOMMISSION_ACCESS_PARAMS* newRecommissionParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new RECOMMISSION_ACCESS_PARAMS;
-  record->killPassword = getPasswordFromJobject(env, params, "killPassword");
+  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
   record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionOpCodeSignature);
   return record;
 }
@@ -120,8 +120,8 @@ RECOMMISSION_ACCESS_PARAMS* newRecommissionParams(JNIEnv* env, jobject params) {
 WRITE_FIELD_ACCESS_PARAMS* newWriteFieldParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new WRITE_FIELD_ACCESS_PARAMS;
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
-  record->writeDataLength = getWordFromJobject(env, params, "writeDataLength");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->writeDataLength = getUint16FromJobject(env, params, "writeDataLength");
   record->writeData = newByteCopy(env, params, "writeData", record->writeDataLength);
   return record;
 }
@@ -136,21 +136,21 @@ void deleteWriteFieldParams(WRITE_FIELD_ACCESS_PARAMS* record) {
 NXP_READ_PROTECT_PARAMS* newNxpReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_READ_PROTECT_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   return record;
 }
 
 NXP_RESET_READ_PROTECT_PARAMS* newNxpResetReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_RESET_READ_PROTECT_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   return record;
 }
 
 NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_SET_EAS_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->EASState = getCBoolFromJobject(env, params, "EASState");
   return record;
 }
@@ -158,25 +158,25 @@ NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
 NXP_CHANGE_CONFIG_PARAMS* newNxpChangeConfigParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_CHANGE_CONFIG_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
-  record->ChangeConfigWord = getWordFromJobject(env, params, "ChangeConfigWord");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->ChangeConfigWord = getUint16FromJobject(env, params, "ChangeConfigWord");
   return record;
 }
 
 IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_WRITE_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
-  record->qtControlData = getWordFromJobject(env, qtData, "qtControlData");
+  record->qtControlData = getUint16FromJobject(env, qtData, "qtControlData");
   return record;
 }
 
 IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_READ_PARAMS();
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   return record;
 }
 
@@ -186,9 +186,9 @@ AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
   auto* record = new AUTHENTICATE_PARAMS();
   record->sendRsp = getCBoolFromJobject(env, params, "sendRsp");
   record->incRespLen = getCBoolFromJobject(env, params, "incRespLen");
-  record->CSI = getByteFromJobject(env, params, "CSI");
-  record->length = getWordFromJobject(env, params, "length");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->CSI = getUint8FromJobject(env, params, "CSI");
+  record->length = getUint16FromJobject(env, params, "length");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->pMessage = newByteCopy(env, params, "pMessage", record->length / 8);
   return record;
 }
@@ -197,30 +197,30 @@ void fillUntraceableParams(JNIEnv* env, jobject params, UNTRACEABLE_PARAMS* reco
   *record = UNTRACEABLE_PARAMS();
   record->assertU = getCBoolFromJobject(env, params, "assertU");
   record->hideEPC = getCBoolFromJobject(env, params, "hideEPC");
-  record->EPCLength = getByteFromJobject(env, params, "EPCLength");
+  record->EPCLength = getUint8FromJobject(env, params, "EPCLength");
   record->hideUser = getCBoolFromJobject(env, params, "hideUser");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->hideTID = getEnumFieldFromJobject(env, params, "hideTID", kTidHideStateSignature);
   record->operatingRange = getEnumFieldFromJobject(env, params, "operatingRange", kOperatingRangeSignature);
 }
 
 void fillReadBufferParams(JNIEnv* env, jobject params, READ_BUFFER_PARAMS* record) {
-  record->wordPtr = getWordFromJobject(env, params, "wordPtr");
-  record->bitCount = getWordFromJobject(env, params, "bitCount");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->wordPtr = getUint16FromJobject(env, params, "wordPtr");
+  record->bitCount = getUint16FromJobject(env, params, "bitCount");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
 }
 
 // Exactly three challenge words are read, whatever the Java array's length.
 CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new CRYPTO_PARAMS();
-  record->keyID = getByteFromJobject(env, params, "keyID");
+  record->keyID = getUint8FromJobject(env, params, "keyID");
   record->customData = getCBoolFromJobject(env, params, "customData");
-  record->profile = getByteFromJobject(env, params, "profile");
-  record->offset = getByteFromJobject(env, params, "offset");
-  record->blockCount = getByteFromJobject(env, params, "blockCount");
-  record->protMode = getByteFromJobject(env, params, "protMode");
-  record->accessPassword = getPasswordFromJobject(env, params, "accessPassword");
+  record->profile = getUint8FromJobject(env, params, "profile");
+  record->offset = getUint8FromJobject(env, params, "offset");
+  record->blockCount = getUint8FromJobject(env, params, "blockCount");
+  record->protMode = getUint8FromJobject(env, params, "protMode");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   auto challenge = static_cast<jintArray>(getJobjectFromJobject(env, params, "IChallenge", "[I"));
   const orla::PinnedArray<jintArray> words(env, challenge);
   for (size_t i = 0; i < kIChallengeWords; ++i) record->IChallenge[i] = static_cast<uint32_t>(words[static_cast<jsize>(i)]);

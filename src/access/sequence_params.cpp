@@ -2,6 +2,7 @@
 // shared field accessors.
 #include "access/sequence_params.h"
 #include "bridge/c_bool.h"
+#include "bridge/unsigned_fields.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -43,30 +44,21 @@ void deleteAs(void* record) {
   delete static_cast<Record*>(record);
 }
 
-// The low 32 bits of a Java long password.
-uint32_t passwordFrom(JNIEnv* env, jobject params, const char* name) {
-  return static_cast<uint32_t>(getLongFromJobject(env, params, name));
-}
-
-uint16_t unsignedShortFrom(JNIEnv* env, jobject params, const char* name) {
-  return static_cast<uint16_t>(getShortFromJobject(env, params, name));
-}
-
 // Read and block erase share their fields.
 template <class Record>
 void fillMemoryRange(JNIEnv* env, jobject params, Record* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->byteOffset = unsignedShortFrom(env, params, "byteOffset");
-  record->byteCount = unsignedShortFrom(env, params, "byteCount");
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->byteCount = getUint16FromJobject(env, params, "byteCount");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
 }
 
 // Returns the data buffer of writeDataLength bytes that the record points
 // at. The Java array must hold at least that many bytes.
 uint8_t* fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
-  record->byteOffset = unsignedShortFrom(env, params, "byteOffset");
-  record->writeDataLength = unsignedShortFrom(env, params, "writeDataLength");
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->writeDataLength = getUint16FromJobject(env, params, "writeDataLength");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->writeData = new uint8_t[record->writeDataLength];
   getByteArrayInJobject(env, params, "writeData", record->writeData, record->writeDataLength);
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
@@ -75,7 +67,7 @@ uint8_t* fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
 
 // Returns the buffer the five privileges were read into before widening.
 uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   auto* privileges = new uint16_t[kLockPrivilegeCount];
   getShortArrayInJobject(env, params, "enumPrivilege", privileges, static_cast<int>(kLockPrivilegeCount));
   for (size_t i = 0; i < kLockPrivilegeCount; ++i) record->enumPrivilege[i] = privileges[i];
@@ -83,11 +75,11 @@ uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
 }
 
 void fillKill(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record) {
-  record->killPassword = passwordFrom(env, params, "killPassword");
+  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
 }
 
 void fillRecommission(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record) {
-  record->killPassword = passwordFrom(env, params, "killPassword");
+  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
   record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionCodeSignature);
 }
 
@@ -96,10 +88,10 @@ void fillRecommission(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* r
 // frees the buffer: the caller leaves it to the operation record.
 void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
-  record->byteOffset = unsignedShortFrom(env, params, "byteOffset");
-  record->byteCount = unsignedShortFrom(env, params, "byteCount");
-  record->maskLength = unsignedShortFrom(env, params, "maskLength");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->byteCount = getUint16FromJobject(env, params, "byteCount");
+  record->maskLength = getUint16FromJobject(env, params, "maskLength");
   record->readLock = getCBoolFromJobject(env, params, "readLock");
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
@@ -109,24 +101,24 @@ void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARA
 // the password.
 template <class Record>
 void fillAccessPassword(JNIEnv* env, jobject params, Record* record) {
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
 }
 
 void fillNxpSetEas(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->EASState = getCBoolFromJobject(env, params, "EASState");
 }
 
 void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
-  record->qtControlData = unsignedShortFrom(env, qtData, "qtControlData");
+  record->qtControlData = getUint16FromJobject(env, qtData, "qtControlData");
 }
 
 void fillNxpChangeConfig(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record) {
-  record->accessPassword = passwordFrom(env, params, "accessPassword");
-  record->ChangeConfigWord = unsignedShortFrom(env, params, "ChangeConfigWord");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->ChangeConfigWord = getUint16FromJobject(env, params, "ChangeConfigWord");
 }
 
 }  // namespace

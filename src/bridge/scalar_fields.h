@@ -1,5 +1,5 @@
 // Fields of the Java types that the shared accessors of jni_fields.h leave
-// out: long writes and float reads and writes. Each makes the same three
+// out: long writes, float reads and writes, and byte reads. Each makes the same three
 // JNI calls as those accessors (the object's class, the field looked up
 // afresh, the typed field call) and checks nothing.
 #pragma once
@@ -22,4 +22,10 @@ inline void setFloatInJobject(JNIEnv* env, jobject object, const char* name, jfl
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "F");
   env->SetFloatField(object, field, value);
+}
+
+inline jbyte getByteFromJobject(JNIEnv* env, jobject object, const char* name) {
+  jclass cls = env->GetObjectClass(object);
+  jfieldID field = env->GetFieldID(cls, name, "B");
+  return env->GetByteField(object, field);
 }

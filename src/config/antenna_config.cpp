@@ -12,6 +12,7 @@
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "bridge/scalar_fields.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -25,18 +26,14 @@ uint16_t uint16Field(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint16_t>(getIntFromJobject(env, object, name));
 }
 
-uint32_t uint32Field(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint32_t>(getLongFromJobject(env, object, name));
-}
-
 // Setting reads the stop trigger's type from its enum object; getting
 // writes the plain "enumstopTriggerType" int instead.
 void fillAntennaRfConfig(JNIEnv* env, jobject config, ANTENNA_RF_CONFIG* record) {
   record->transmitPowerIndex = uint16Field(env, config, "transmitPowerIndex");
   record->receiveSensitivityIndex = uint16Field(env, config, "receiveSensitivityIndex");
   record->transmitFrequencyIndex = uint16Field(env, config, "transmitFrequencyIndex");
-  record->rfModeTableIndex = uint32Field(env, config, "rfModeTableIndex");
-  record->tari = uint32Field(env, config, "tari");
+  record->rfModeTableIndex = getLowUint32FromJobject(env, config, "rfModeTableIndex");
+  record->tari = getLowUint32FromJobject(env, config, "tari");
   record->transmitPort = uint16Field(env, config, "transmitPort");
   record->receivePort = uint16Field(env, config, "receivePort");
   jobject stopTrigger = getJobjectFromJobject(env, config, "antennaStopTrigger", kAntennaStopTriggerSignature);
