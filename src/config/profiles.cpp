@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "bridge/c_bool.h"
+#include "bridge/name_buffer.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
-#include "config/profile_name_buffer.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 

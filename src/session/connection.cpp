@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "bridge/c_bool.h"
-#include "bridge/conversions.h"
 #include "bridge/enum_field.h"
+#include "bridge/name_buffer.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
@@ -60,8 +60,7 @@ extern "C" {
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Connect(JNIEnv* env, jclass, jlongArray handleOut,
                                                                          jstring hostName, jint firstParameter,
                                                                          jint secondParameter, jobject connInfo) {
-  wchar_t host[kWideTextChars] = {};
-  JavaToWSZ(env, hostName, host);
+  const NameBuffer host(env, hostName);
   orla::PinnedArray<jlongArray> handle(env, handleOut);
 
   CONNECTION_INFO info = {};
@@ -69,7 +68,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Connect(JNIEnv
   info.secConnInfo = newSecConnectionInfo(env, connInfo);
 
   READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_ConnectW(&slot, host, static_cast<uint32_t>(firstParameter),
+  const RFID_STATUS status = RFID_ConnectW(&slot, host.text, static_cast<uint32_t>(firstParameter),
                                            static_cast<uint32_t>(secondParameter), &info);
   if (status == 0) handle[0] = slot;
   handle.release();  // mode 0, whatever the status
