@@ -56,6 +56,30 @@ void deleteTagMask(TAG_PATTERN* pattern) {
   pattern->tagMask = nullptr;
 }
 
+// The access filter and the post filter share their layout, their Java
+// fields and their conversion; each keeps its own public entry below.
+template <class Filter>
+void fillFilter(JNIEnv* env, jobject filter, Filter* record, TAG_PATTERN* patternA, TAG_PATTERN* patternB) {
+  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
+  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
+  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
+  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
+  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
+  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
+  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+}
+
+// The tagPattern bytes of both patterns are left allocated on purpose.
+template <class Filter>
+void clearFilter(Filter* record) {
+  if (record->rssiRangeFilter != nullptr) {
+    delete record->rssiRangeFilter;
+    record->rssiRangeFilter = nullptr;
+  }
+  deleteTagMask(record->tagPatternA);
+  deleteTagMask(record->tagPatternB);
+}
+
 }  // namespace
 
 void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* record) {
@@ -76,42 +100,14 @@ void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* r
 
 void GetAccessFilterInfoFromJobject(JNIEnv* env, jobject filter, ACCESS_FILTER* record, TAG_PATTERN* patternA,
                                     TAG_PATTERN* patternB) {
-  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
-  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
-  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
-  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
-  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
-  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
-  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+  fillFilter(env, filter, record, patternA, patternB);
 }
 
 void GetPostFilterInfoFromJobject(JNIEnv* env, jobject filter, POST_FILTER* record, TAG_PATTERN* patternA,
                                   TAG_PATTERN* patternB) {
-  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
-  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
-  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
-  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
-  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
-  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
-  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+  fillFilter(env, filter, record, patternA, patternB);
 }
 
-// The tagPattern bytes of both patterns are left allocated on purpose.
-void clearAccessFilter(ACCESS_FILTER* record) {
-  if (record->rssiRangeFilter != nullptr) {
-    delete record->rssiRangeFilter;
-    record->rssiRangeFilter = nullptr;
-  }
-  deleteTagMask(record->tagPatternA);
-  deleteTagMask(record->tagPatternB);
-}
+void clearAccessFilter(ACCESS_FILTER* record) { clearFilter(record); }
 
-// The tagPattern bytes of both patterns are left allocated on purpose.
-void clearPostFilter(POST_FILTER* record) {
-  if (record->rssiRangeFilter != nullptr) {
-    delete record->rssiRangeFilter;
-    record->rssiRangeFilter = nullptr;
-  }
-  deleteTagMask(record->tagPatternA);
-  deleteTagMask(record->tagPatternB);
-}
+void clearPostFilter(POST_FILTER* record) { clearFilter(record); }
