@@ -2,14 +2,14 @@
 // the order each record lists them below; a record that is not zeroed keeps
 // whatever its padding and reserved bytes held.
 #include "access/access_params.h"
-#include "bridge/c_bool.h"
-#include "bridge/unsigned_fields.h"
 
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
 
 namespace {

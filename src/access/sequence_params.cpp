@@ -1,13 +1,13 @@
 // Parameter records of access-sequence operations, filled through the
 // shared field accessors.
 #include "access/sequence_params.h"
-#include "bridge/c_bool.h"
-#include "bridge/unsigned_fields.h"
 
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 

@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
-#include "bridge/c_bool.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 

@@ -1,6 +1,5 @@
 // Writing tag records into Java tag objects, and the tag records that Java
 // holds between calls.
-#include "bridge/scalar_fields.h"
 #include "tags/tag_data.h"
 
 #include <cstdint>
@@ -8,6 +7,7 @@
 #include <cstring>
 #include <cwchar>
 
+#include "bridge/scalar_fields.h"
 #include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"

@@ -1,12 +1,12 @@
 // Start, stop, report and extra triggers.
-#include "bridge/c_bool.h"
-#include "bridge/unsigned_fields.h"
 #include "tags/triggers.h"
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/system_time.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
 
 namespace {
