@@ -1,6 +1,7 @@
-// Parameter records of the single tag access operations. Fields are read in
-// the order each record lists them below; a record that is not zeroed keeps
-// whatever its padding and reserved bytes held.
+// Parameter records of the single tag access operations, and the fillers
+// that the access sequences share. Fields are read in the order each record
+// lists them below; a record that is not zeroed keeps whatever its padding
+// and reserved bytes held.
 #include "access/access_params.h"
 
 #include <cstddef>
@@ -28,69 +29,52 @@ uint8_t* newByteCopy(JNIEnv* env, jobject object, const char* name, uint16_t cou
   return bytes;
 }
 
-}  // namespace
-
-READ_ACCESS_PARAMS* fillReadParams(JNIEnv* env, jobject params, READ_ACCESS_PARAMS* record) {
-  if (params == nullptr) return nullptr;
-  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
-  record->byteCount = getUint16FromJobject(env, params, "byteCount");
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  return record;
-}
-
-WRITE_ACCESS_PARAMS* newWriteParams(JNIEnv* env, jobject params) {
-  if (params == nullptr) return nullptr;
-  auto* record = new WRITE_ACCESS_PARAMS();
-  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
-  const uint16_t length = getUint16FromJobject(env, params, "writeDataLength");
-  record->writeDataLength = length;
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->writeData = newByteCopy(env, params, "writeData", length);
-  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
-  return record;
-}
-
-void deleteWriteParams(WRITE_ACCESS_PARAMS* record) {
+// Frees the buffer a record points at, clears the pointer, then frees the
+// record; nothing for NULL.
+template <class Record, class Buffer>
+void deleteWithBuffer(Record* record, Buffer* Record::*buffer) {
   if (record == nullptr) return;
-  delete[] record->writeData;
-  record->writeData = nullptr;
+  delete[] (record->*buffer);
+  record->*buffer = nullptr;
   delete record;
 }
 
-BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
-  if (params == nullptr) return nullptr;
-  auto* record = new BLOCK_ERASE_ACCESS_PARAMS;
+}  // namespace
+
+// The fillers shared with the access sequences.
+
+template <class Record>
+void fillMemoryRange(JNIEnv* env, jobject params, Record* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
   record->byteCount = getUint16FromJobject(env, params, "byteCount");
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  return record;
+}
+template void fillMemoryRange(JNIEnv*, jobject, READ_ACCESS_PARAMS*);
+template void fillMemoryRange(JNIEnv*, jobject, BLOCK_ERASE_ACCESS_PARAMS*);
+
+void fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
+  record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
+  record->writeDataLength = getUint16FromJobject(env, params, "writeDataLength");
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->writeData = newByteCopy(env, params, "writeData", record->writeDataLength);
+  record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
 }
 
-// The privileges pass through a buffer of five Java shorts of their own
-// before they are widened; a shorter Java array is read past its end.
-LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
-  if (params == nullptr) return nullptr;
-  auto* record = new LOCK_ACCESS_PARAMS;
+// A shorter Java array is read past its end.
+uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   auto* privileges = new uint16_t[kLockPrivilegeCount];
-  getShortArrayInJobject(env, params, "enumPrivilege", privileges, kLockPrivilegeCount);
+  getShortArrayInJobject(env, params, "enumPrivilege", privileges, static_cast<int>(kLockPrivilegeCount));
   for (size_t i = 0; i < kLockPrivilegeCount; ++i) record->enumPrivilege[i] = privileges[i];
-  delete[] privileges;
-  return record;
+  return privileges;
 }
 
-KILL_ACCESS_PARAMS* newKillParams(JNIEnv* env, jobject params) {
-  if (params == nullptr) return nullptr;
-  auto* record = new KILL_ACCESS_PARAMS;
+void fillKill(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record) {
   record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
-  return record;
 }
 
-BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject params) {
-  if (params == nullptr) return nullptr;
-  auto* record = new BLOCK_PERMALOCK_ACCESS_PARAMS;
+void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
@@ -99,21 +83,92 @@ BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject para
   record->readLock = getCBoolFromJobject(env, params, "readLock");
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
+}
+
+void fillRecommission(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record) {
+  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
+  record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionOpCodeSignature);
+}
+
+template <class Record>
+void fillAccessPassword(JNIEnv* env, jobject params, Record* record) {
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+}
+template void fillAccessPassword(JNIEnv*, jobject, NXP_READ_PROTECT_PARAMS*);
+template void fillAccessPassword(JNIEnv*, jobject, NXP_RESET_READ_PROTECT_PARAMS*);
+template void fillAccessPassword(JNIEnv*, jobject, IMPINJ_QT_READ_PARAMS*);
+
+void fillNxpSetEas(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->EASState = getCBoolFromJobject(env, params, "EASState");
+}
+
+void fillNxpChangeConfig(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record) {
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->ChangeConfigWord = getUint16FromJobject(env, params, "ChangeConfigWord");
+}
+
+void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
+  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
+  jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
+  record->qtControlData = getUint16FromJobject(env, qtData, "qtControlData");
+}
+
+// Gen2 operations.
+
+READ_ACCESS_PARAMS* fillReadParams(JNIEnv* env, jobject params, READ_ACCESS_PARAMS* record) {
+  if (params == nullptr) return nullptr;
+  fillMemoryRange(env, params, record);
+  return record;
+}
+
+WRITE_ACCESS_PARAMS* newWriteParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new WRITE_ACCESS_PARAMS();
+  fillWrite(env, params, record);
+  return record;
+}
+
+void deleteWriteParams(WRITE_ACCESS_PARAMS* record) { deleteWithBuffer(record, &WRITE_ACCESS_PARAMS::writeData); }
+
+BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new BLOCK_ERASE_ACCESS_PARAMS;
+  fillMemoryRange(env, params, record);
+  return record;
+}
+
+LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new LOCK_ACCESS_PARAMS;
+  uint16_t* privileges = fillLock(env, params, record);
+  delete[] privileges;  // the single operation needs them no longer
+  return record;
+}
+
+KILL_ACCESS_PARAMS* newKillParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new KILL_ACCESS_PARAMS;
+  fillKill(env, params, record);
+  return record;
+}
+
+BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject params) {
+  if (params == nullptr) return nullptr;
+  auto* record = new BLOCK_PERMALOCK_ACCESS_PARAMS;
+  fillBlockPermalock(env, params, record);
   return record;
 }
 
 void deleteBlockPermalockParams(BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
-  if (record == nullptr) return;
-  delete[] record->mask;
-  record->mask = nullptr;
-  delete record;
+  deleteWithBuffer(record, &BLOCK_PERMALOCK_ACCESS_PARAMS::mask);
 }
 
 RECOMMISSION_ACCESS_PARAMS* newRecommissionParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new RECOMMISSION_ACCESS_PARAMS;
-  record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
-  record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionOpCodeSignature);
+  fillRecommission(env, params, record);
   return record;
 }
 
@@ -127,58 +182,54 @@ WRITE_FIELD_ACCESS_PARAMS* newWriteFieldParams(JNIEnv* env, jobject params) {
 }
 
 void deleteWriteFieldParams(WRITE_FIELD_ACCESS_PARAMS* record) {
-  if (record == nullptr) return;
-  delete[] record->writeData;
-  record->writeData = nullptr;
-  delete record;
+  deleteWithBuffer(record, &WRITE_FIELD_ACCESS_PARAMS::writeData);
 }
+
+// NXP and Impinj commands.
 
 NXP_READ_PROTECT_PARAMS* newNxpReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_READ_PROTECT_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  fillAccessPassword(env, params, record);
   return record;
 }
 
 NXP_RESET_READ_PROTECT_PARAMS* newNxpResetReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_RESET_READ_PROTECT_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  fillAccessPassword(env, params, record);
   return record;
 }
 
 NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_SET_EAS_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->EASState = getCBoolFromJobject(env, params, "EASState");
+  fillNxpSetEas(env, params, record);
   return record;
 }
 
 NXP_CHANGE_CONFIG_PARAMS* newNxpChangeConfigParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_CHANGE_CONFIG_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->ChangeConfigWord = getUint16FromJobject(env, params, "ChangeConfigWord");
+  fillNxpChangeConfig(env, params, record);
   return record;
 }
 
 IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_WRITE_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
-  jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
-  record->qtControlData = getUint16FromJobject(env, qtData, "qtControlData");
+  fillImpinjQtWrite(env, params, record);
   return record;
 }
 
 IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_READ_PARAMS();
-  record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
+  fillAccessPassword(env, params, record);
   return record;
 }
+
+// Gen2v2 commands.
 
 // Bits of the message beyond the last whole byte are not sent.
 AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
