@@ -5,11 +5,11 @@
 #include <cstdint>
 
 #include "bridge/enum_field.h"
+#include "bridge/struct_info.h"
 #include "jni_fields.h"
 
 namespace {
 
-constexpr const char* kStructInfoSignature = "Lcom/kovra/rfid/orla/STRUCT_INFO;";
 constexpr const char* kTagPatternSignature = "Lcom/kovra/rfid/orla/TAG_PATTERN;";
 constexpr const char* kMatchPatternSignature = "Lcom/kovra/rfid/orla/FILTER_MATCH_PATTERN;";
 constexpr const char* kRssiRangeFilterSignature = "Lcom/kovra/rfid/orla/RSSI_RANGE_FILTER;";

@@ -8,6 +8,7 @@
 #include <cwchar>
 
 #include "bridge/scalar_fields.h"
+#include "bridge/struct_info.h"
 #include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
@@ -124,9 +125,7 @@ void setLocation(JNIEnv* env, jobject tagData, const LOCATION_INFO* location) {
 void SetTagDataToJobject(JNIEnv* env, jobject tagData, TAG_DATA* tag, bool utcTime) {
   TagTexts texts;
 
-  jobject structInfo = getJobjectFromJobject(env, tagData, "structInfo", "Lcom/kovra/rfid/orla/STRUCT_INFO;");
-  setIntInJobject(env, structInfo, "memoryAllocated", static_cast<int>(tag->memoryAllocated));
-  setIntInJobject(env, structInfo, "memoryUsed", static_cast<int>(tag->memoryUsed));
+  setStructInfoInJobject(env, tagData, tag->memoryAllocated, tag->memoryUsed);
 
   clearText(texts.tagID);
   appendHex(texts.tagID, tag->pTagID, tag->tagIDLength);
