@@ -57,7 +57,7 @@ void writeAntennaRfConfig(JNIEnv* env, jobject config, const ANTENNA_RF_CONFIG& 
 
 CABLE_LOSS_COMPENSATION* newCableLossCompensation(JNIEnv* env, jobject compensation) {
   auto* record = new CABLE_LOSS_COMPENSATION();
-  record->antennaID = static_cast<uint16_t>(getShortFromJobject(env, compensation, "antennaID"));
+  record->antennaID = getUint16FromJobject(env, compensation, "antennaID");
   record->cableLengthInFt = getFloatFromJobject(env, compensation, "cableLengthInFt");
   record->cableLossPer100Ft = getFloatFromJobject(env, compensation, "cableLossPer100Ft");
   return record;
@@ -146,7 +146,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetCableLossCo
                                                                                           jint readerHandle,
                                                                                           jobject compensation) {
   CABLE_LOSS_COMPENSATION record = {};
-  record.antennaID = static_cast<uint16_t>(getShortFromJobject(env, compensation, "antennaID"));
+  record.antennaID = getUint16FromJobject(env, compensation, "antennaID");
   const RFID_STATUS status = RFID_GetCableLossCompensation(static_cast<READER_HANDLE>(readerHandle), &record);
   if (status != 0) return status;
   setFloatInJobject(env, compensation, "cableLengthInFt", record.cableLengthInFt);

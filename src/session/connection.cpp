@@ -7,6 +7,7 @@
 #include "bridge/enum_field.h"
 #include "bridge/name_buffer.h"
 #include "bridge/pinned_array.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -21,7 +22,7 @@ constexpr const char* kSecConnectionInfoSignature = "Lcom/kovra/rfid/orla/SEC_CO
 // against the Java array.
 void copySizedBuffer(JNIEnv* env, jobject secure, const char* sizeField, const char* bufferField, uint32_t& size,
                      uint8_t*& buffer) {
-  size = static_cast<uint32_t>(getIntFromJobject(env, secure, sizeField));
+  size = getUint32FromJobject(env, secure, sizeField);
   if (size == 0) return;
   buffer = new uint8_t[size];
   getByteArrayInJobject(env, secure, bufferField, buffer, static_cast<int>(size));

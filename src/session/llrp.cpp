@@ -9,6 +9,7 @@
 #include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "bridge/string_field.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -55,7 +56,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
     static_cast<void>(env->GetStringUTFChars(host, nullptr));
     JavaToWSZ(env, host, record.hostServerIP);
   }
-  record.port = static_cast<uint32_t>(getIntFromJobject(env, config, "port"));
+  record.port = getUint32FromJobject(env, config, "port");
 
   jobject secure = getJobjectFromJobject(env, config, "pSecureModeConfig", kSecLlrpConfigSignature);
   if (getBoolFromJobject(env, secure, "secureMode")) {

@@ -6,6 +6,7 @@
 
 #include "bridge/enum_field.h"
 #include "bridge/struct_info.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
 
 namespace {
@@ -30,9 +31,9 @@ TAG_PATTERN* fillTagPattern(JNIEnv* env, jobject filter, const char* field, TAG_
   jobject pattern = getJobjectFromJobject(env, filter, field, kTagPatternSignature);
   if (pattern == nullptr) return nullptr;
   record->memoryBank = getEnumFieldFromJobject(env, pattern, "memoryBank", "Lcom/kovra/rfid/orla/MEMORY_BANK;");
-  record->bitOffset = static_cast<uint16_t>(getShortFromJobject(env, pattern, "bitOffset"));
-  record->tagMaskBitCount = static_cast<uint16_t>(getShortFromJobject(env, pattern, "tagMaskBitCount"));
-  record->tagPatternBitCount = static_cast<uint16_t>(getShortFromJobject(env, pattern, "tagPatternBitCount"));
+  record->bitOffset = getUint16FromJobject(env, pattern, "bitOffset");
+  record->tagMaskBitCount = getUint16FromJobject(env, pattern, "tagMaskBitCount");
+  record->tagPatternBitCount = getUint16FromJobject(env, pattern, "tagPatternBitCount");
   record->tagMask = newPatternBytes(env, pattern, "tagMask", record->tagMaskBitCount);
   record->tagPattern = newPatternBytes(env, pattern, "tagPattern", record->tagPatternBitCount);
   return record;
@@ -61,8 +62,8 @@ void deleteTagMask(TAG_PATTERN* pattern) {
 template <class Filter>
 void fillFilter(JNIEnv* env, jobject filter, Filter* record, TAG_PATTERN* patternA, TAG_PATTERN* patternB) {
   jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
-  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
-  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
+  record->memoryAllocated = getUint32FromJobject(env, structInfo, "memoryAllocated");
+  record->memoryUsed = getUint32FromJobject(env, structInfo, "memoryUsed");
   record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
   record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
   record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
@@ -83,7 +84,7 @@ void clearFilter(Filter* record) {
 }  // namespace
 
 void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* record) {
-  record->length = static_cast<uint32_t>(getIntFromJobject(env, antennaInfo, "length"));
+  record->length = getUint32FromJobject(env, antennaInfo, "length");
   getShortArrayInJobject(env, antennaInfo, "antennaList", record->antennaList, static_cast<int>(record->length));
 
   auto qualifiers = static_cast<jobjectArray>(

@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "bridge/enum_field.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -31,11 +32,11 @@ void fillFilterAction(JNIEnv* env, jobject params, PRE_FILTER* record) {
 // Fills the record; the pattern bytes (ceil(bit count / 8) of them, even
 // none) are allocated here and handed to the caller.
 void fillPreFilter(JNIEnv* env, jobject preFilter, PRE_FILTER* record) {
-  record->tagPatternBitCount = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "tagPatternBitCount"));
+  record->tagPatternBitCount = getUint16FromJobject(env, preFilter, "tagPatternBitCount");
   const size_t patternBytes = patternByteCount(record->tagPatternBitCount);
   record->tagPattern = new uint8_t[patternBytes];
   getByteArrayInJobject(env, preFilter, "tagPattern", record->tagPattern, static_cast<int>(patternBytes));
-  record->bitOffset = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "bitOffset"));
+  record->bitOffset = getUint16FromJobject(env, preFilter, "bitOffset");
   record->memoryBank = getEnumFieldFromJobject(env, preFilter, "memoryBank", "Lcom/kovra/rfid/orla/MEMORY_BANK;");
   record->filterAction = getEnumFieldFromJobject(env, preFilter, "filterAction", "Lcom/kovra/rfid/orla/FILTER_ACTION;");
   record->truncateAction = getEnumFieldFromJobject(env, preFilter, "truncateAction", "Lcom/kovra/rfid/orla/TRUNCATE_ACTION;");
