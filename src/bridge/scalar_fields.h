@@ -1,7 +1,7 @@
 // Fields of the Java types that the shared accessors of jni_fields.h leave
-// out: long writes, float reads and writes, and byte reads. Each makes the same three
-// JNI calls as those accessors (the object's class, the field looked up
-// afresh, the typed field call) and checks nothing.
+// out: long writes, float reads and writes, and byte reads. Each makes the
+// same three JNI calls as those accessors (the object's class, the field
+// looked up afresh, the typed field call) and checks nothing.
 #pragma once
 
 #include <jni.h>
