@@ -44,16 +44,16 @@ void deleteWithBuffer(Record* record, Buffer* Record::*buffer) {
 // The fillers shared with the access sequences.
 
 template <class Record>
-void fillMemoryRange(JNIEnv* env, jobject params, Record* record) {
+void fillMemoryRangeParams(JNIEnv* env, jobject params, Record* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
   record->byteCount = getUint16FromJobject(env, params, "byteCount");
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
 }
-template void fillMemoryRange(JNIEnv*, jobject, READ_ACCESS_PARAMS*);
-template void fillMemoryRange(JNIEnv*, jobject, BLOCK_ERASE_ACCESS_PARAMS*);
+template void fillMemoryRangeParams(JNIEnv*, jobject, READ_ACCESS_PARAMS*);
+template void fillMemoryRangeParams(JNIEnv*, jobject, BLOCK_ERASE_ACCESS_PARAMS*);
 
-void fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
+void fillWriteParams(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
   record->writeDataLength = getUint16FromJobject(env, params, "writeDataLength");
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
@@ -62,7 +62,7 @@ void fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record) {
 }
 
 // A shorter Java array is read past its end.
-uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
+uint16_t* fillLockParams(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   auto* privileges = new uint16_t[kLockPrivilegeCount];
   getShortArrayInJobject(env, params, "enumPrivilege", privileges, static_cast<int>(kLockPrivilegeCount));
@@ -70,11 +70,11 @@ uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record) {
   return privileges;
 }
 
-void fillKill(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record) {
+void fillKillParams(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record) {
   record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
 }
 
-void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
+void fillBlockPermalockParams(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
   record->memoryBank = getEnumFieldFromJobject(env, params, "memoryBank", kMemoryBankSignature);
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
@@ -85,30 +85,30 @@ void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARA
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
 }
 
-void fillRecommission(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record) {
+void fillRecommissionParams(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record) {
   record->killPassword = getLowUint32FromJobject(env, params, "killPassword");
   record->opCode = getEnumFieldFromJobject(env, params, "opCode", kRecommissionOpCodeSignature);
 }
 
 template <class Record>
-void fillAccessPassword(JNIEnv* env, jobject params, Record* record) {
+void fillAccessPasswordParams(JNIEnv* env, jobject params, Record* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
 }
-template void fillAccessPassword(JNIEnv*, jobject, NXP_READ_PROTECT_PARAMS*);
-template void fillAccessPassword(JNIEnv*, jobject, NXP_RESET_READ_PROTECT_PARAMS*);
-template void fillAccessPassword(JNIEnv*, jobject, IMPINJ_QT_READ_PARAMS*);
+template void fillAccessPasswordParams(JNIEnv*, jobject, NXP_READ_PROTECT_PARAMS*);
+template void fillAccessPasswordParams(JNIEnv*, jobject, NXP_RESET_READ_PROTECT_PARAMS*);
+template void fillAccessPasswordParams(JNIEnv*, jobject, IMPINJ_QT_READ_PARAMS*);
 
-void fillNxpSetEas(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
+void fillNxpSetEasParams(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->EASState = getCBoolFromJobject(env, params, "EASState");
 }
 
-void fillNxpChangeConfig(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record) {
+void fillNxpChangeConfigParams(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->ChangeConfigWord = getUint16FromJobject(env, params, "ChangeConfigWord");
 }
 
-void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
+void fillImpinjQtWriteParams(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
@@ -119,14 +119,14 @@ void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* reco
 
 READ_ACCESS_PARAMS* fillReadParams(JNIEnv* env, jobject params, READ_ACCESS_PARAMS* record) {
   if (params == nullptr) return nullptr;
-  fillMemoryRange(env, params, record);
+  fillMemoryRangeParams(env, params, record);
   return record;
 }
 
 WRITE_ACCESS_PARAMS* newWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new WRITE_ACCESS_PARAMS();
-  fillWrite(env, params, record);
+  fillWriteParams(env, params, record);
   return record;
 }
 
@@ -135,14 +135,14 @@ void deleteWriteParams(WRITE_ACCESS_PARAMS* record) { deleteWithBuffer(record, &
 BLOCK_ERASE_ACCESS_PARAMS* newBlockEraseParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new BLOCK_ERASE_ACCESS_PARAMS;
-  fillMemoryRange(env, params, record);
+  fillMemoryRangeParams(env, params, record);
   return record;
 }
 
 LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new LOCK_ACCESS_PARAMS;
-  uint16_t* privileges = fillLock(env, params, record);
+  uint16_t* privileges = fillLockParams(env, params, record);
   delete[] privileges;  // the single operation needs them no longer
   return record;
 }
@@ -150,14 +150,14 @@ LOCK_ACCESS_PARAMS* newLockParams(JNIEnv* env, jobject params) {
 KILL_ACCESS_PARAMS* newKillParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new KILL_ACCESS_PARAMS;
-  fillKill(env, params, record);
+  fillKillParams(env, params, record);
   return record;
 }
 
 BLOCK_PERMALOCK_ACCESS_PARAMS* newBlockPermalockParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new BLOCK_PERMALOCK_ACCESS_PARAMS;
-  fillBlockPermalock(env, params, record);
+  fillBlockPermalockParams(env, params, record);
   return record;
 }
 
@@ -168,7 +168,7 @@ void deleteBlockPermalockParams(BLOCK_PERMALOCK_ACCESS_PARAMS* record) {
 RECOMMISSION_ACCESS_PARAMS* newRecommissionParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new RECOMMISSION_ACCESS_PARAMS;
-  fillRecommission(env, params, record);
+  fillRecommissionParams(env, params, record);
   return record;
 }
 
@@ -190,42 +190,42 @@ void deleteWriteFieldParams(WRITE_FIELD_ACCESS_PARAMS* record) {
 NXP_READ_PROTECT_PARAMS* newNxpReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_READ_PROTECT_PARAMS();
-  fillAccessPassword(env, params, record);
+  fillAccessPasswordParams(env, params, record);
   return record;
 }
 
 NXP_RESET_READ_PROTECT_PARAMS* newNxpResetReadProtectParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_RESET_READ_PROTECT_PARAMS();
-  fillAccessPassword(env, params, record);
+  fillAccessPasswordParams(env, params, record);
   return record;
 }
 
 NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_SET_EAS_PARAMS();
-  fillNxpSetEas(env, params, record);
+  fillNxpSetEasParams(env, params, record);
   return record;
 }
 
 NXP_CHANGE_CONFIG_PARAMS* newNxpChangeConfigParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new NXP_CHANGE_CONFIG_PARAMS();
-  fillNxpChangeConfig(env, params, record);
+  fillNxpChangeConfigParams(env, params, record);
   return record;
 }
 
 IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_WRITE_PARAMS();
-  fillImpinjQtWrite(env, params, record);
+  fillImpinjQtWriteParams(env, params, record);
   return record;
 }
 
 IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new IMPINJ_QT_READ_PARAMS();
-  fillAccessPassword(env, params, record);
+  fillAccessPasswordParams(env, params, record);
   return record;
 }
 

@@ -68,23 +68,23 @@ CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params);
 // Read and block erase share their four fields; defined for these two
 // records only.
 template <class Record>
-void fillMemoryRange(JNIEnv* env, jobject params, Record* record);
+void fillMemoryRangeParams(JNIEnv* env, jobject params, Record* record);
 // With writeDataLength bytes of "writeData" in a buffer of their own.
-void fillWrite(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record);
+void fillWriteParams(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record);
 // The first five elements of "enumPrivilege" pass through a buffer of five
 // 16-bit values before they are widened; that buffer is returned, and the
 // caller frees it.
-uint16_t* fillLock(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record);
-void fillKill(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record);
+uint16_t* fillLockParams(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record);
+void fillKillParams(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record);
 // A mask buffer of maskLength bytes, allocated even when empty and filled
 // from "mask" only when maskLength is not 0.
-void fillBlockPermalock(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record);
-void fillRecommission(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record);
+void fillBlockPermalockParams(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record);
+void fillRecommissionParams(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record);
 // NXP read protect, NXP reset read protect and Impinj QT read carry only
 // the password; defined for these three records only.
 template <class Record>
-void fillAccessPassword(JNIEnv* env, jobject params, Record* record);
-void fillNxpSetEas(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record);
-void fillNxpChangeConfig(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record);
+void fillAccessPasswordParams(JNIEnv* env, jobject params, Record* record);
+void fillNxpSetEasParams(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record);
+void fillNxpChangeConfigParams(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record);
 // The control word is that of the IMPINJ_QT_DATA object in "qtData".
-void fillImpinjQtWrite(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record);
+void fillImpinjQtWriteParams(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record);

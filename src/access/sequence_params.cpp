@@ -56,66 +56,68 @@ void* SequenceParams::fill(JNIEnv* env, jobject operation, uint32_t opCode) {
   switch (opCode) {
     case kOpRead:
       build<READ_ACCESS_PARAMS>(env, operation, "readAccessParamsStruct", "Lcom/kovra/rfid/orla/READ_ACCESS_PARAMS;",
-                                kAsAllocated, fillMemoryRange<READ_ACCESS_PARAMS>);
+                                kAsAllocated, fillMemoryRangeParams<READ_ACCESS_PARAMS>);
       break;
     case kOpWrite:
     case kOpBlockWrite:  // a block write takes its data from the write parameters
       build<WRITE_ACCESS_PARAMS>(env, operation, "writeAccessParamsStruct",
                                  "Lcom/kovra/rfid/orla/WRITE_ACCESS_PARAMS;", kZeroed,
                                  [this](JNIEnv* e, jobject p, WRITE_ACCESS_PARAMS* r) {
-                                   fillWrite(e, p, r);
+                                   fillWriteParams(e, p, r);
                                    writeData_ = r->writeData;
                                  });
       break;
     case kOpLock:
       build<LOCK_ACCESS_PARAMS>(env, operation, "lockAccessParamsStruct", "Lcom/kovra/rfid/orla/LOCK_ACCESS_PARAMS;",
                                 kAsAllocated, [this](JNIEnv* e, jobject p, LOCK_ACCESS_PARAMS* r) {
-                                  privileges_ = fillLock(e, p, r);
+                                  privileges_ = fillLockParams(e, p, r);
                                 });
       break;
     case kOpKill:
       build<KILL_ACCESS_PARAMS>(env, operation, "killAccessParamsStruct", "Lcom/kovra/rfid/orla/KILL_ACCESS_PARAMS;",
-                                kAsAllocated, fillKill);
+                                kAsAllocated, fillKillParams);
       break;
     case kOpBlockErase:
       build<BLOCK_ERASE_ACCESS_PARAMS>(env, operation, "blockEraseAccessParamsStruct",
                                        "Lcom/kovra/rfid/orla/BLOCK_ERASE_ACCESS_PARAMS;", kAsAllocated,
-                                       fillMemoryRange<BLOCK_ERASE_ACCESS_PARAMS>);
+                                       fillMemoryRangeParams<BLOCK_ERASE_ACCESS_PARAMS>);
       break;
     case kOpRecommission:
       build<RECOMMISSION_ACCESS_PARAMS>(env, operation, "recommissionAccessParamsStruct",
-                                        "Lcom/kovra/rfid/orla/RECOMMISSION_ACCESS_PARAMS;", kZeroed, fillRecommission);
+                                        "Lcom/kovra/rfid/orla/RECOMMISSION_ACCESS_PARAMS;", kZeroed,
+                                        fillRecommissionParams);
       break;
     case kOpBlockPermalock:
       build<BLOCK_PERMALOCK_ACCESS_PARAMS>(env, operation, "blockPermalockAccessParamsStruct",
                                            "Lcom/kovra/rfid/orla/BLOCK_PERMALOCK_ACCESS_PARAMS;", kZeroed,
-                                           fillBlockPermalock);
+                                           fillBlockPermalockParams);
       break;
     case kOpNxpSetEas:
       build<NXP_SET_EAS_PARAMS>(env, operation, "setEASParamsStruct", "Lcom/kovra/rfid/orla/NXP_SET_EAS_PARAMS;",
-                                kZeroed, fillNxpSetEas);
+                                kZeroed, fillNxpSetEasParams);
       break;
     case kOpNxpReadProtect:
       build<NXP_READ_PROTECT_PARAMS>(env, operation, "readProtectParamsStruct",
                                      "Lcom/kovra/rfid/orla/NXP_READ_PROTECT_PARAMS;", kZeroed,
-                                     fillAccessPassword<NXP_READ_PROTECT_PARAMS>);
+                                     fillAccessPasswordParams<NXP_READ_PROTECT_PARAMS>);
       break;
     case kOpNxpResetReadProtect:
       build<NXP_RESET_READ_PROTECT_PARAMS>(env, operation, "resetReadProtectParamsStruct",
                                            "Lcom/kovra/rfid/orla/NXP_RESET_READ_PROTECT_PARAMS;", kZeroed,
-                                           fillAccessPassword<NXP_RESET_READ_PROTECT_PARAMS>);
+                                           fillAccessPasswordParams<NXP_RESET_READ_PROTECT_PARAMS>);
       break;
     case kOpImpinjQtWrite:
       build<IMPINJ_QT_WRITE_PARAMS>(env, operation, "QTWriteParamsStruct",
-                                    "Lcom/kovra/rfid/orla/IMPINJ_QT_WRITE_PARAMS;", kZeroed, fillImpinjQtWrite);
+                                    "Lcom/kovra/rfid/orla/IMPINJ_QT_WRITE_PARAMS;", kZeroed, fillImpinjQtWriteParams);
       break;
     case kOpImpinjQtRead:
       build<IMPINJ_QT_READ_PARAMS>(env, operation, "QTReadParamsStruct", "Lcom/kovra/rfid/orla/IMPINJ_QT_READ_PARAMS;",
-                                   kZeroed, fillAccessPassword<IMPINJ_QT_READ_PARAMS>);
+                                   kZeroed, fillAccessPasswordParams<IMPINJ_QT_READ_PARAMS>);
       break;
     case kOpNxpChangeConfig:
       build<NXP_CHANGE_CONFIG_PARAMS>(env, operation, "nxpChangeConfigParamsStruct",
-                                      "Lcom/kovra/rfid/orla/NXP_CHANGE_CONFIG_PARAMS;", kZeroed, fillNxpChangeConfig);
+                                      "Lcom/kovra/rfid/orla/NXP_CHANGE_CONFIG_PARAMS;", kZeroed,
+                                      fillNxpChangeConfigParams);
       break;
     default:  // 11 to 19, the Gen2v2 codes and anything newer: no parameters
       break;
