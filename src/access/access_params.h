@@ -1,5 +1,6 @@
 // Java parameter objects into the parameter records of the single tag
-// access operations: Gen2, NXP and Impinj, Gen2v2.
+// access operations (Gen2, NXP and Impinj, Gen2v2) and of the operations of
+// an access sequence, which carry the same records.
 //
 // Passwords are Java longs of which the low 32 bits are stored; lengths and
 // offsets are Java shorts stored as the same 16 bits; booleans become one
@@ -11,6 +12,8 @@
 #pragma once
 
 #include <jni.h>
+
+#include <cstdint>
 
 #include "reader_api.h"
 
@@ -41,7 +44,6 @@ NXP_READ_PROTECT_PARAMS* newNxpReadProtectParams(JNIEnv* env, jobject params);
 NXP_RESET_READ_PROTECT_PARAMS* newNxpResetReadProtectParams(JNIEnv* env, jobject params);
 NXP_SET_EAS_PARAMS* newNxpSetEasParams(JNIEnv* env, jobject params);
 NXP_CHANGE_CONFIG_PARAMS* newNxpChangeConfigParams(JNIEnv* env, jobject params);
-// The control word is that of the IMPINJ_QT_DATA object in "qtData".
 IMPINJ_QT_WRITE_PARAMS* newImpinjQtWriteParams(JNIEnv* env, jobject params);
 IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params);
 
@@ -56,3 +58,33 @@ void fillUntraceableParams(JNIEnv* env, jobject params, UNTRACEABLE_PARAMS* reco
 void fillReadBufferParams(JNIEnv* env, jobject params, READ_BUFFER_PARAMS* record);
 // Zeroed, with the first three elements of "IChallenge".
 CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params);
+
+// Field by field, in the order each record lists them, into a record that
+// the caller allocated (and zeroed or not, as its operation wants); the Java
+// object must not be null. The single operations and the access sequences
+// both fill their records through these. A data or mask buffer is
+// allocated here and hung on the record; its owner frees it.
+
+// Read and block erase share their four fields; defined for these two
+// records only.
+template <class Record>
+void fillMemoryRangeParams(JNIEnv* env, jobject params, Record* record);
+// With writeDataLength bytes of "writeData" in a buffer of their own.
+void fillWriteParams(JNIEnv* env, jobject params, WRITE_ACCESS_PARAMS* record);
+// The first five elements of "enumPrivilege" pass through a buffer of five
+// 16-bit values before they are widened; that buffer is returned, and the
+// caller frees it.
+uint16_t* fillLockParams(JNIEnv* env, jobject params, LOCK_ACCESS_PARAMS* record);
+void fillKillParams(JNIEnv* env, jobject params, KILL_ACCESS_PARAMS* record);
+// A mask buffer of maskLength bytes, allocated even when empty and filled
+// from "mask" only when maskLength is not 0.
+void fillBlockPermalockParams(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCESS_PARAMS* record);
+void fillRecommissionParams(JNIEnv* env, jobject params, RECOMMISSION_ACCESS_PARAMS* record);
+// NXP read protect, NXP reset read protect and Impinj QT read carry only
+// the password; defined for these three records only.
+template <class Record>
+void fillAccessPasswordParams(JNIEnv* env, jobject params, Record* record);
+void fillNxpSetEasParams(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record);
+void fillNxpChangeConfigParams(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record);
+// The control word is that of the IMPINJ_QT_DATA object in "qtData".
+void fillImpinjQtWriteParams(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record);

@@ -5,11 +5,11 @@
 #include <cstdint>
 
 #include "access/sequence_params.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/enum_field.h"
 #include "tags/filters.h"
 #include "tags/triggers.h"
 

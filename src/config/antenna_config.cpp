@@ -8,41 +8,22 @@
 #include <cstdint>
 #include <new>
 
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/scalar_fields.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/enum_field.h"
 
 namespace {
 
 constexpr const char* kAntennaStopTriggerSignature = "Lcom/kovra/rfid/orla/ANTENNA_STOP_TRIGGER;";
 constexpr const char* kAntennaStopTriggerTypeSignature = "Lcom/kovra/rfid/orla/ANTENNA_STOP_TRIGGER_TYPE;";
 
-void setLongInJobject(JNIEnv* env, jobject object, const char* name, jlong value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "J");
-  env->SetLongField(object, field, value);
-}
-
-jfloat getFloatFromJobject(JNIEnv* env, jobject object, const char* name) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "F");
-  return env->GetFloatField(object, field);
-}
-
-void setFloatInJobject(JNIEnv* env, jobject object, const char* name, jfloat value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "F");
-  env->SetFloatField(object, field, value);
-}
-
 uint16_t uint16Field(JNIEnv* env, jobject object, const char* name) {
   return static_cast<uint16_t>(getIntFromJobject(env, object, name));
-}
-
-uint32_t uint32Field(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint32_t>(getLongFromJobject(env, object, name));
 }
 
 // Setting reads the stop trigger's type from its enum object; getting
@@ -51,8 +32,8 @@ void fillAntennaRfConfig(JNIEnv* env, jobject config, ANTENNA_RF_CONFIG* record)
   record->transmitPowerIndex = uint16Field(env, config, "transmitPowerIndex");
   record->receiveSensitivityIndex = uint16Field(env, config, "receiveSensitivityIndex");
   record->transmitFrequencyIndex = uint16Field(env, config, "transmitFrequencyIndex");
-  record->rfModeTableIndex = uint32Field(env, config, "rfModeTableIndex");
-  record->tari = uint32Field(env, config, "tari");
+  record->rfModeTableIndex = getLowUint32FromJobject(env, config, "rfModeTableIndex");
+  record->tari = getLowUint32FromJobject(env, config, "tari");
   record->transmitPort = uint16Field(env, config, "transmitPort");
   record->receivePort = uint16Field(env, config, "receivePort");
   jobject stopTrigger = getJobjectFromJobject(env, config, "antennaStopTrigger", kAntennaStopTriggerSignature);
@@ -76,7 +57,7 @@ void writeAntennaRfConfig(JNIEnv* env, jobject config, const ANTENNA_RF_CONFIG& 
 
 CABLE_LOSS_COMPENSATION* newCableLossCompensation(JNIEnv* env, jobject compensation) {
   auto* record = new CABLE_LOSS_COMPENSATION();
-  record->antennaID = static_cast<uint16_t>(getShortFromJobject(env, compensation, "antennaID"));
+  record->antennaID = getUint16FromJobject(env, compensation, "antennaID");
   record->cableLengthInFt = getFloatFromJobject(env, compensation, "cableLengthInFt");
   record->cableLossPer100Ft = getFloatFromJobject(env, compensation, "cableLossPer100Ft");
   return record;
@@ -165,7 +146,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetCableLossCo
                                                                                           jint readerHandle,
                                                                                           jobject compensation) {
   CABLE_LOSS_COMPENSATION record = {};
-  record.antennaID = static_cast<uint16_t>(getShortFromJobject(env, compensation, "antennaID"));
+  record.antennaID = getUint16FromJobject(env, compensation, "antennaID");
   const RFID_STATUS status = RFID_GetCableLossCompensation(static_cast<READER_HANDLE>(readerHandle), &record);
   if (status != 0) return status;
   setFloatInJobject(env, compensation, "cableLengthInFt", record.cableLengthInFt);
@@ -190,8 +171,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetPhysicalAnt
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetAntennaMode(JNIEnv* env, jclass,
                                                                                 jint readerHandle,
                                                                                 jobject antennaMode) {
-  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle),
-                             static_cast<uint32_t>(getEnumValueFromJobject(env, antennaMode, 0)));
+  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, antennaMode));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetAntennaMode(JNIEnv* env, jclass,
@@ -221,7 +201,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetReadPointSt
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1EnableReadPoint(JNIEnv*, jclass, jint readerHandle,
                                                                                  jshort antennaID, jboolean enable) {
   return RFID_EnableReadPoint(static_cast<READER_HANDLE>(readerHandle), static_cast<uint16_t>(antennaID),
-                              enable != JNI_FALSE ? 1 : 0);
+                              toCBool(enable));
 }
 
 }  // extern "C"

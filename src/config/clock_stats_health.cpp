@@ -7,10 +7,10 @@
 #include <cwchar>
 #include <memory>
 
+#include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/system_time.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <cwchar>
 
+#include "bridge/string_field.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 
@@ -17,17 +18,7 @@
 // and the reader reads a field only up to its terminator.
 constexpr size_t kClearedFieldHeadBytes = 519;
 
-// One text field of a record and the Java String field that fills it.
-struct TextField {
-  const char* name;
-  wchar_t* text;
-};
-
 inline void clearFieldHead(const TextField& field) { std::memset(field.text, 0, kClearedFieldHeadBytes); }
-
-inline jstring getStringFromJobject(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<jstring>(getJobjectFromJobject(env, object, name, "Ljava/lang/String;"));
-}
 
 // Stores a reader text in a String field: converted under the process's
 // locale into a 4096-byte buffer, made a Java string from its modified

@@ -10,7 +10,7 @@
 
 #include <cstdint>
 
-#include "config/c_bool.h"
+#include "bridge/c_bool.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 

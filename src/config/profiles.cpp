@@ -6,8 +6,9 @@
 #include <cwchar>
 #include <memory>
 
+#include "bridge/c_bool.h"
+#include "bridge/name_buffer.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
-#include "config/profile_name_buffer.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 
@@ -65,7 +66,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1ExportProfileT
   const NameBuffer first(env, firstName);
   const NameBuffer second(env, secondName);
   return RFID_ExportProfileToReaderW(static_cast<READER_HANDLE>(readerHandle), first.text, second.text,
-                                     flag != JNI_FALSE ? 1 : 0);
+                                     toCBool(flag));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1DeleteProfile(JNIEnv* env, jclass,

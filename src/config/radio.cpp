@@ -4,12 +4,12 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
-#include "config/c_bool.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/enum_field.h"
 
 namespace {
 

@@ -5,16 +5,12 @@
 #include <cstdint>
 
 #include "bridge/conversions.h"
+#include "bridge/string_field.h"
+#include "bridge/struct_info.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "config/info_text_fields.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-
-namespace {
-
-constexpr const char* kStructInfoSignature = "Lcom/kovra/rfid/orla/STRUCT_INFO;";
-
-}  // namespace
 
 extern "C" {
 
@@ -38,9 +34,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetSystemInfo(
   setIntInJobject(env, systemInfo, "cpuUsageForUserProcesses", record.cpuUsageForUserProcesses);
   setIntInJobject(env, systemInfo, "cpuUsageForSystemProcesses", record.cpuUsageForSystemProcesses);
   setStringInJobject(env, systemInfo, "fPGAVersion", record.fPGAVersion);
-  jobject structInfo = getJobjectFromJobject(env, systemInfo, "structInfo", kStructInfoSignature);
-  setIntInJobject(env, structInfo, "memoryAllocated", static_cast<int>(record.structInfo.memoryAllocated));
-  setIntInJobject(env, structInfo, "memoryUsed", static_cast<int>(record.structInfo.memoryUsed));
+  setStructInfoInJobject(env, systemInfo, record.structInfo.memoryAllocated, record.structInfo.memoryUsed);
   return 0;
 }
 

@@ -5,10 +5,11 @@
 #include <cstdint>
 
 #include "bridge/conversions.h"
+#include "bridge/name_buffer.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "config/info_text_fields.h"
-#include "config/profile_name_buffer.h"
 #include "jni_fields.h"
 #include "reader_api.h"
 

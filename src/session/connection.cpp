@@ -3,8 +3,11 @@
 
 #include <cstdint>
 
-#include "bridge/conversions.h"
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
+#include "bridge/name_buffer.h"
 #include "bridge/pinned_array.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -19,7 +22,7 @@ constexpr const char* kSecConnectionInfoSignature = "Lcom/kovra/rfid/orla/SEC_CO
 // against the Java array.
 void copySizedBuffer(JNIEnv* env, jobject secure, const char* sizeField, const char* bufferField, uint32_t& size,
                      uint8_t*& buffer) {
-  size = static_cast<uint32_t>(getIntFromJobject(env, secure, sizeField));
+  size = getUint32FromJobject(env, secure, sizeField);
   if (size == 0) return;
   buffer = new uint8_t[size];
   getByteArrayInJobject(env, secure, bufferField, buffer, static_cast<int>(size));
@@ -32,8 +35,8 @@ SEC_CONNECTION_INFO* newSecConnectionInfo(JNIEnv* env, jobject connInfo) {
   if (secure == nullptr || !getBoolFromJobject(env, secure, "secureMode")) return nullptr;
 
   auto* record = new SEC_CONNECTION_INFO();
-  record->secureMode = getBoolFromJobject(env, secure, "secureMode") ? 1 : 0;
-  record->validatePeerCert = getBoolFromJobject(env, secure, "validatePeerCert") ? 1 : 0;
+  record->secureMode = getCBoolFromJobject(env, secure, "secureMode");
+  record->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
   copySizedBuffer(env, secure, "sizeCertBuff", "clientCertBuff", record->sizeCertBuff, record->clientCertBuff);
   copySizedBuffer(env, secure, "sizeKeyBuff", "clientKeyBuff", record->sizeKeyBuff, record->clientKeyBuff);
   copySizedBuffer(env, secure, "sizePhraseBuff", "phraseBuff", record->sizePhraseBuff, record->phraseBuff);
@@ -58,17 +61,15 @@ extern "C" {
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Connect(JNIEnv* env, jclass, jlongArray handleOut,
                                                                          jstring hostName, jint firstParameter,
                                                                          jint secondParameter, jobject connInfo) {
-  wchar_t host[kWideTextChars] = {};
-  JavaToWSZ(env, hostName, host);
+  const NameBuffer host(env, hostName);
   orla::PinnedArray<jlongArray> handle(env, handleOut);
 
   CONNECTION_INFO info = {};
-  jobject version = getJobjectFromJobject(env, connInfo, "version", kRfidVersionSignature);
-  info.version = static_cast<uint32_t>(getEnumValueFromJobject(env, version, 0));
+  info.version = getEnumFieldFromJobject(env, connInfo, "version", kRfidVersionSignature);
   info.secConnInfo = newSecConnectionInfo(env, connInfo);
 
   READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_ConnectW(&slot, host, static_cast<uint32_t>(firstParameter),
+  const RFID_STATUS status = RFID_ConnectW(&slot, host.text, static_cast<uint32_t>(firstParameter),
                                            static_cast<uint32_t>(secondParameter), &info);
   if (status == 0) handle[0] = slot;
   handle.release();  // mode 0, whatever the status

@@ -5,14 +5,12 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "tags/system_time.h"
 
 namespace {
-
-constexpr const char* kSystemTimeSignature = "Lcom/kovra/rfid/orla/SYSTEMTIME;";
 
 // Bytes of the multibyte text of a status description. A description that
 // converts to this many bytes or more has no terminator in the buffer.

@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <cwchar>
 
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -131,7 +133,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_rfidUtils_1WaitForMu
   for (jint i = 0; i < count; ++i) handles[i] = pinned[i];
 
   const int32_t result =
-      rfidUtils_WaitForMultipleObjects(count, handles, waitAll != JNI_FALSE ? 1 : 0, timeoutMilliseconds);
+      rfidUtils_WaitForMultipleObjects(count, handles, toCBool(waitAll), timeoutMilliseconds);
   if (pinned != nullptr) env->ReleaseLongArrayElements(eventHandles, pinned, 0);
   delete[] handles;
   return result;
@@ -141,16 +143,14 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1RegisterEventN
                                                                                            jint readerHandle,
                                                                                            jobject eventType,
                                                                                            jint eventHandle) {
-  return RFID_RegisterEventNotification(static_cast<READER_HANDLE>(readerHandle),
-                                        static_cast<uint32_t>(getEnumValueFromJobject(env, eventType, 0)),
+  return RFID_RegisterEventNotification(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, eventType),
                                         static_cast<EVENT_HANDLE>(eventHandle));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1DeregisterEventNotification(JNIEnv* env, jclass,
                                                                                              jint readerHandle,
                                                                                              jobject eventType) {
-  return RFID_DeregisterEventNotification(static_cast<READER_HANDLE>(readerHandle),
-                                          static_cast<uint32_t>(getEnumValueFromJobject(env, eventType, 0)));
+  return RFID_DeregisterEventNotification(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, eventType));
 }
 
 // Event types above 14, and those that carry no data for Java, return 0
@@ -158,7 +158,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1DeregisterEven
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetEventData(JNIEnv* env, jclass, jint readerHandle,
                                                                               jobject eventType, jobject eventData) {
   wchar_t alarmCode[kAlarmCodeChars] = {};
-  const auto type = static_cast<uint32_t>(getEnumValueFromJobject(env, eventType, 0));
+  const uint32_t type = ordinalOf(env, eventType);
   if (type > kTemperatureAlarmEvent) return 0;
 
   const auto reader = static_cast<READER_HANDLE>(readerHandle);

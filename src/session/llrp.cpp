@@ -4,13 +4,15 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
 #include "bridge/conversions.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "session/string_field.h"
-#include "tags/enum_field.h"
 
 namespace {
 
@@ -47,21 +49,21 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
                                                                                          jint readerHandle,
                                                                                          jobject config) {
   LLRP_CONNECTION_CONFIG record = {};
-  record.isClient = getBoolFromJobject(env, config, "isClient") ? 1 : 0;
+  record.isClient = getCBoolFromJobject(env, config, "isClient");
   jstring host = getStringFromJobject(env, config, "hostServerIP");
   if (host != nullptr) {
     // Fetched once and deliberately never released, as login does.
     static_cast<void>(env->GetStringUTFChars(host, nullptr));
     JavaToWSZ(env, host, record.hostServerIP);
   }
-  record.port = static_cast<uint32_t>(getIntFromJobject(env, config, "port"));
+  record.port = getUint32FromJobject(env, config, "port");
 
   jobject secure = getJobjectFromJobject(env, config, "pSecureModeConfig", kSecLlrpConfigSignature);
   if (getBoolFromJobject(env, secure, "secureMode")) {
     // Deliberately never freed: the secure record outlives this call.
     record.pSecureModeConfig = new SEC_LLRP_CONFIG();
-    record.pSecureModeConfig->secureMode = getBoolFromJobject(env, secure, "secureMode") ? 1 : 0;
-    record.pSecureModeConfig->validatePeerCert = getBoolFromJobject(env, secure, "validatePeerCert") ? 1 : 0;
+    record.pSecureModeConfig->secureMode = getCBoolFromJobject(env, secure, "secureMode");
+    record.pSecureModeConfig->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
   }
   return RFID_SetLLRPConnectionConfigW(static_cast<READER_HANDLE>(readerHandle), &record);
 }

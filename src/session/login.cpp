@@ -5,23 +5,18 @@
 #include <cstdint>
 #include <memory>
 
+#include "bridge/c_bool.h"
 #include "bridge/conversions.h"
+#include "bridge/enum_field.h"
 #include "bridge/pinned_array.h"
+#include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
-#include "session/string_field.h"
-#include "tags/enum_field.h"
 
 namespace {
 
 constexpr const char* kRfidVersionSignature = "Lcom/kovra/rfid/orla/RFID_VERSION;";
-
-// A text field of the login object and the record's buffer it goes into.
-struct LoginText {
-  const char* field;
-  wchar_t* buffer;
-};
 
 }  // namespace
 
@@ -37,22 +32,22 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
   std::unique_ptr<LOGIN_INFO> record;
   if (loginInfo != nullptr) {
     record = std::make_unique<LOGIN_INFO>();  // all zero
-    const LoginText texts[] = {
+    const TextField fields[] = {
         {"hostName", record->hostName}, {"userName", record->userName}, {"password", record->password}};
-    for (const LoginText& text : texts) {
-      jstring value = getStringFromJobject(env, loginInfo, text.field);
+    for (const TextField& field : fields) {
+      jstring value = getStringFromJobject(env, loginInfo, field.name);
       if (value == nullptr) continue;
       // Fetched once and deliberately never released: login keeps this leak as it stands.
       static_cast<void>(env->GetStringUTFChars(value, nullptr));
-      JavaToWSZ(env, value, text.buffer);
+      JavaToWSZ(env, value, field.text);
     }
-    record->forceLogin = getBoolFromJobject(env, loginInfo, "forceLogin") ? 1 : 0;
+    record->forceLogin = getCBoolFromJobject(env, loginInfo, "forceLogin");
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
   }
-  const auto kind = static_cast<uint32_t>(getEnumValueFromJobject(env, readerType, 0));
+  const uint32_t kind = ordinalOf(env, readerType);
 
   READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, flag != JNI_FALSE ? 1 : 0, nullptr);
+  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, toCBool(flag), nullptr);
   if (status == 0) handle[0] = slot;
   record.reset();
   handle.release();  // mode 0, whatever the status

@@ -4,12 +4,13 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/enum_field.h"
+#include "bridge/struct_info.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 
 namespace {
 
-constexpr const char* kStructInfoSignature = "Lcom/kovra/rfid/orla/STRUCT_INFO;";
 constexpr const char* kTagPatternSignature = "Lcom/kovra/rfid/orla/TAG_PATTERN;";
 constexpr const char* kMatchPatternSignature = "Lcom/kovra/rfid/orla/FILTER_MATCH_PATTERN;";
 constexpr const char* kRssiRangeFilterSignature = "Lcom/kovra/rfid/orla/RSSI_RANGE_FILTER;";
@@ -30,9 +31,9 @@ TAG_PATTERN* fillTagPattern(JNIEnv* env, jobject filter, const char* field, TAG_
   jobject pattern = getJobjectFromJobject(env, filter, field, kTagPatternSignature);
   if (pattern == nullptr) return nullptr;
   record->memoryBank = getEnumFieldFromJobject(env, pattern, "memoryBank", "Lcom/kovra/rfid/orla/MEMORY_BANK;");
-  record->bitOffset = static_cast<uint16_t>(getShortFromJobject(env, pattern, "bitOffset"));
-  record->tagMaskBitCount = static_cast<uint16_t>(getShortFromJobject(env, pattern, "tagMaskBitCount"));
-  record->tagPatternBitCount = static_cast<uint16_t>(getShortFromJobject(env, pattern, "tagPatternBitCount"));
+  record->bitOffset = getUint16FromJobject(env, pattern, "bitOffset");
+  record->tagMaskBitCount = getUint16FromJobject(env, pattern, "tagMaskBitCount");
+  record->tagPatternBitCount = getUint16FromJobject(env, pattern, "tagPatternBitCount");
   record->tagMask = newPatternBytes(env, pattern, "tagMask", record->tagMaskBitCount);
   record->tagPattern = newPatternBytes(env, pattern, "tagPattern", record->tagPatternBitCount);
   return record;
@@ -56,10 +57,34 @@ void deleteTagMask(TAG_PATTERN* pattern) {
   pattern->tagMask = nullptr;
 }
 
+// The access filter and the post filter share their layout, their Java
+// fields and their conversion; each keeps its own public entry below.
+template <class Filter>
+void fillFilter(JNIEnv* env, jobject filter, Filter* record, TAG_PATTERN* patternA, TAG_PATTERN* patternB) {
+  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
+  record->memoryAllocated = getUint32FromJobject(env, structInfo, "memoryAllocated");
+  record->memoryUsed = getUint32FromJobject(env, structInfo, "memoryUsed");
+  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
+  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
+  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
+  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+}
+
+// The tagPattern bytes of both patterns are left allocated on purpose.
+template <class Filter>
+void clearFilter(Filter* record) {
+  if (record->rssiRangeFilter != nullptr) {
+    delete record->rssiRangeFilter;
+    record->rssiRangeFilter = nullptr;
+  }
+  deleteTagMask(record->tagPatternA);
+  deleteTagMask(record->tagPatternB);
+}
+
 }  // namespace
 
 void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* record) {
-  record->length = static_cast<uint32_t>(getIntFromJobject(env, antennaInfo, "length"));
+  record->length = getUint32FromJobject(env, antennaInfo, "length");
   getShortArrayInJobject(env, antennaInfo, "antennaList", record->antennaList, static_cast<int>(record->length));
 
   auto qualifiers = static_cast<jobjectArray>(
@@ -70,48 +95,20 @@ void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* r
   }
   for (uint32_t i = 0; i < record->length; ++i) {
     jobject qualifier = env->GetObjectArrayElement(qualifiers, static_cast<jsize>(i));
-    record->antennaOpList[i] = static_cast<uint32_t>(getEnumValueFromJobject(env, qualifier, 0));
+    record->antennaOpList[i] = ordinalOf(env, qualifier);
   }
 }
 
 void GetAccessFilterInfoFromJobject(JNIEnv* env, jobject filter, ACCESS_FILTER* record, TAG_PATTERN* patternA,
                                     TAG_PATTERN* patternB) {
-  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
-  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
-  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
-  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
-  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
-  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
-  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+  fillFilter(env, filter, record, patternA, patternB);
 }
 
 void GetPostFilterInfoFromJobject(JNIEnv* env, jobject filter, POST_FILTER* record, TAG_PATTERN* patternA,
                                   TAG_PATTERN* patternB) {
-  jobject structInfo = getJobjectFromJobject(env, filter, "structInfo", kStructInfoSignature);
-  record->memoryAllocated = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryAllocated"));
-  record->memoryUsed = static_cast<uint32_t>(getIntFromJobject(env, structInfo, "memoryUsed"));
-  record->tagPatternA = fillTagPattern(env, filter, "tagPatternA", patternA);
-  record->tagPatternB = fillTagPattern(env, filter, "tagPatternB", patternB);
-  record->matchPattern = getEnumFieldFromJobject(env, filter, "matchPattern", kMatchPatternSignature);
-  record->rssiRangeFilter = newRssiRangeFilter(env, filter);
+  fillFilter(env, filter, record, patternA, patternB);
 }
 
-// The tagPattern bytes of both patterns are left allocated on purpose.
-void clearAccessFilter(ACCESS_FILTER* record) {
-  if (record->rssiRangeFilter != nullptr) {
-    delete record->rssiRangeFilter;
-    record->rssiRangeFilter = nullptr;
-  }
-  deleteTagMask(record->tagPatternA);
-  deleteTagMask(record->tagPatternB);
-}
+void clearAccessFilter(ACCESS_FILTER* record) { clearFilter(record); }
 
-// The tagPattern bytes of both patterns are left allocated on purpose.
-void clearPostFilter(POST_FILTER* record) {
-  if (record->rssiRangeFilter != nullptr) {
-    delete record->rssiRangeFilter;
-    record->rssiRangeFilter = nullptr;
-  }
-  deleteTagMask(record->tagPatternA);
-  deleteTagMask(record->tagPatternB);
-}
+void clearPostFilter(POST_FILTER* record) { clearFilter(record); }

@@ -5,11 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "bridge/enum_field.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
-#include "tags/filters.h"
 #include "reader_api.h"
+#include "tags/filters.h"
 
 namespace {
 
@@ -18,24 +19,24 @@ namespace {
 void fillFilterAction(JNIEnv* env, jobject params, PRE_FILTER* record) {
   jobject unaware =
       getJobjectFromJobject(env, params, "stateUnawareAction", "Lcom/kovra/rfid/orla/STATE_UNAWARE_ACTION;");
-  if (unaware != nullptr) record->stateUnawareAction = static_cast<uint32_t>(getEnumValueFromJobject(env, unaware, 0));
+  if (unaware != nullptr) record->stateUnawareAction = ordinalOf(env, unaware);
   jobject aware =
       getJobjectFromJobject(env, params, "stateAwareParams", "Lcom/kovra/rfid/orla/STATE_AWARE_ACTION_PARAMS;");
   if (aware == nullptr) return;
   jobject target = getJobjectFromJobject(env, aware, "target", "Lcom/kovra/rfid/orla/TARGET;");
-  if (target != nullptr) record->target = static_cast<uint32_t>(getEnumValueFromJobject(env, target, 0));
+  if (target != nullptr) record->target = ordinalOf(env, target);
   jobject action = getJobjectFromJobject(env, aware, "stateAwareAction", "Lcom/kovra/rfid/orla/STATE_AWARE_ACTION;");
-  if (action != nullptr) record->stateAwareAction = static_cast<uint32_t>(getEnumValueFromJobject(env, action, 0));
+  if (action != nullptr) record->stateAwareAction = ordinalOf(env, action);
 }
 
 // Fills the record; the pattern bytes (ceil(bit count / 8) of them, even
 // none) are allocated here and handed to the caller.
 void fillPreFilter(JNIEnv* env, jobject preFilter, PRE_FILTER* record) {
-  record->tagPatternBitCount = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "tagPatternBitCount"));
+  record->tagPatternBitCount = getUint16FromJobject(env, preFilter, "tagPatternBitCount");
   const size_t patternBytes = patternByteCount(record->tagPatternBitCount);
   record->tagPattern = new uint8_t[patternBytes];
   getByteArrayInJobject(env, preFilter, "tagPattern", record->tagPattern, static_cast<int>(patternBytes));
-  record->bitOffset = static_cast<uint16_t>(getShortFromJobject(env, preFilter, "bitOffset"));
+  record->bitOffset = getUint16FromJobject(env, preFilter, "bitOffset");
   record->memoryBank = getEnumFieldFromJobject(env, preFilter, "memoryBank", "Lcom/kovra/rfid/orla/MEMORY_BANK;");
   record->filterAction = getEnumFieldFromJobject(env, preFilter, "filterAction", "Lcom/kovra/rfid/orla/FILTER_ACTION;");
   record->truncateAction = getEnumFieldFromJobject(env, preFilter, "truncateAction", "Lcom/kovra/rfid/orla/TRUNCATE_ACTION;");

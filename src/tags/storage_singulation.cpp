@@ -4,19 +4,17 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
+#include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
 #include "reader_api.h"
 
 namespace {
 
 constexpr const char* kStateAwareSingulationActionSignature =
     "Lcom/kovra/rfid/orla/STATE_AWARE_SINGULATION_ACTION;";
-
-RFID_BOOL boolField(JNIEnv* env, jobject object, const char* name) {
-  return getBoolFromJobject(env, object, name) ? 1 : 0;
-}
 
 }  // namespace
 
@@ -41,12 +39,12 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetTagStorageS
                                                                                        jint readerHandle,
                                                                                        jobject settings) {
   TAG_STORAGE_SETTINGS record;
-  record.maxTagCount = static_cast<uint32_t>(getIntFromJobject(env, settings, "maxTagCount"));
-  record.maxMemoryBankByteCount = static_cast<uint32_t>(getIntFromJobject(env, settings, "maxMemoryBankByteCount"));
-  record.maxTagIDByteCount = static_cast<uint32_t>(getIntFromJobject(env, settings, "maxTagIDByteCount"));
-  record.tagFields = static_cast<uint16_t>(getShortFromJobject(env, settings, "tagFields"));
-  record.enableAccessReports = boolField(env, settings, "enableAccessReports");
-  record.discardTagsOnInventoryStop = boolField(env, settings, "discardTagsOnInventoryStop");
+  record.maxTagCount = getUint32FromJobject(env, settings, "maxTagCount");
+  record.maxMemoryBankByteCount = getUint32FromJobject(env, settings, "maxMemoryBankByteCount");
+  record.maxTagIDByteCount = getUint32FromJobject(env, settings, "maxTagIDByteCount");
+  record.tagFields = getUint16FromJobject(env, settings, "tagFields");
+  record.enableAccessReports = getCBoolFromJobject(env, settings, "enableAccessReports");
+  record.discardTagsOnInventoryStop = getCBoolFromJobject(env, settings, "discardTagsOnInventoryStop");
   return RFID_SetTagStorageSettings(static_cast<READER_HANDLE>(readerHandle), &record);
 }
 
@@ -77,13 +75,12 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetSingulation
                                                                                        jint antennaID,
                                                                                        jobject control) {
   SINGULATION_CONTROL record;
-  record.tagPopulation = static_cast<uint16_t>(getShortFromJobject(env, control, "tagPopulation"));
-  record.tagTransitTimeMilliseconds =
-      static_cast<uint16_t>(getShortFromJobject(env, control, "tagTransitTimeMilliseconds"));
+  record.tagPopulation = getUint16FromJobject(env, control, "tagPopulation");
+  record.tagTransitTimeMilliseconds = getUint16FromJobject(env, control, "tagTransitTimeMilliseconds");
   record.session = getEnumFieldFromJobject(env, control, "session", "Lcom/kovra/rfid/orla/SESSION;");
   jobject action = getJobjectFromJobject(env, control, "stateAwareSingulationAction",
                                          kStateAwareSingulationActionSignature);
-  record.perform = boolField(env, action, "perform");
+  record.perform = getCBoolFromJobject(env, action, "perform");
   record.inventoryState = getEnumFieldFromJobject(env, action, "inventoryState", "Lcom/kovra/rfid/orla/INVENTORY_STATE;");
   record.slFlag = getEnumFieldFromJobject(env, action, "slFlag", "Lcom/kovra/rfid/orla/SL_FLAG;");
   return RFID_SetSingulationControl(static_cast<READER_HANDLE>(readerHandle), static_cast<uint16_t>(antennaID),

@@ -7,13 +7,13 @@
 #include <cstring>
 #include <cwchar>
 
+#include "bridge/scalar_fields.h"
+#include "bridge/struct_info.h"
+#include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
-#include "tags/system_time.h"
 
 namespace {
-
-constexpr const char* kSystemTimeSignature = "Lcom/kovra/rfid/orla/SYSTEMTIME;";
 
 // Characters of each text area: two per byte plus the terminator, so
 // renderings of up to 2,047 bytes fit.
@@ -51,12 +51,6 @@ void storeText(JNIEnv* env, jobject object, const char* name, const wchar_t* tex
   env->SetObjectField(object, field, env->NewStringUTF(multibyte));
 }
 
-void setLongInJobject(JNIEnv* env, jobject object, const char* name, uint64_t value) {
-  jclass cls = env->GetObjectClass(object);
-  jfieldID field = env->GetFieldID(cls, name, "J");
-  env->SetLongField(object, field, static_cast<jlong>(value));
-}
-
 void setSeenTime(JNIEnv* env, jobject tagData, const TAG_DATA& tag, bool utcTime) {
   jobject seenTime = getJobjectFromJobject(env, tagData, "seenTime", "Lcom/kovra/rfid/orla/SEEN_TIME;");
   if (utcTime) {
@@ -67,8 +61,8 @@ void setSeenTime(JNIEnv* env, jobject tagData, const TAG_DATA& tag, bool utcTime
                            tag.seenTime.utcTime.lastSeenTimeStamp);
   } else {
     jobject upTime = getJobjectFromJobject(env, seenTime, "upTime", "Lcom/kovra/rfid/orla/UP_TIME;");
-    setLongInJobject(env, upTime, "firstSeenTimeStamp", tag.seenTime.upTime.firstSeenTimeStamp);
-    setLongInJobject(env, upTime, "lastSeenTimeStamp", tag.seenTime.upTime.lastSeenTimeStamp);
+    setLongInJobject(env, upTime, "firstSeenTimeStamp", static_cast<jlong>(tag.seenTime.upTime.firstSeenTimeStamp));
+    setLongInJobject(env, upTime, "lastSeenTimeStamp", static_cast<jlong>(tag.seenTime.upTime.lastSeenTimeStamp));
   }
 }
 
@@ -131,9 +125,7 @@ void setLocation(JNIEnv* env, jobject tagData, const LOCATION_INFO* location) {
 void SetTagDataToJobject(JNIEnv* env, jobject tagData, TAG_DATA* tag, bool utcTime) {
   TagTexts texts;
 
-  jobject structInfo = getJobjectFromJobject(env, tagData, "structInfo", "Lcom/kovra/rfid/orla/STRUCT_INFO;");
-  setIntInJobject(env, structInfo, "memoryAllocated", static_cast<int>(tag->memoryAllocated));
-  setIntInJobject(env, structInfo, "memoryUsed", static_cast<int>(tag->memoryUsed));
+  setStructInfoInJobject(env, tagData, tag->memoryAllocated, tag->memoryUsed);
 
   clearText(texts.tagID);
   appendHex(texts.tagID, tag->pTagID, tag->tagIDLength);

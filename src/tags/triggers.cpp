@@ -3,9 +3,11 @@
 
 #include <cstdint>
 
+#include "bridge/c_bool.h"
+#include "bridge/enum_field.h"
+#include "bridge/system_time.h"
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
-#include "tags/enum_field.h"
-#include "tags/system_time.h"
 
 namespace {
 
@@ -33,38 +35,26 @@ enum : uint32_t {
 // entry's own (extra triggers).
 enum class StartTime { Preset, OwnRecord };
 
-uint32_t ordinalOf(JNIEnv* env, jobject enumObject) {
-  return static_cast<uint32_t>(getEnumValueFromJobject(env, enumObject, 0));
-}
-
-uint32_t intField(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint32_t>(getIntFromJobject(env, object, name));
-}
-
-uint16_t shortField(JNIEnv* env, jobject object, const char* name) {
-  return static_cast<uint16_t>(getShortFromJobject(env, object, name));
-}
-
 void fillGpi(JNIEnv* env, jobject gpi, GPI_TRIGGER* record) {
-  record->portNumber = shortField(env, gpi, "portNumber");
-  record->eventInfo = getBoolFromJobject(env, gpi, "eventInfo") ? 1 : 0;
-  record->timeoutMilliseconds = intField(env, gpi, "timeoutMilliseconds");
+  record->portNumber = getUint16FromJobject(env, gpi, "portNumber");
+  record->eventInfo = getCBoolFromJobject(env, gpi, "eventInfo");
+  record->timeoutMilliseconds = getUint32FromJobject(env, gpi, "timeoutMilliseconds");
 }
 
 void fillHandheld(JNIEnv* env, jobject handheld, HANDHELD_TRIGGER* record) {
   record->handheldEvent = getEnumFieldFromJobject(env, handheld, "handheldEvent",
                                                   "Lcom/kovra/rfid/orla/HANDHELD_TRIGGER_EVENT_TYPE;");
-  record->timeoutMilliseconds = intField(env, handheld, "timeoutMilliseconds");
+  record->timeoutMilliseconds = getUint32FromJobject(env, handheld, "timeoutMilliseconds");
 }
 
 void fillWithTimeout(JNIEnv* env, jobject trigger, TRIGGER_WITH_TIMEOUT* record) {
-  record->n = shortField(env, trigger, "n");
-  record->timeoutMilliseconds = intField(env, trigger, "timeoutMilliseconds");
+  record->n = getUint16FromJobject(env, trigger, "n");
+  record->timeoutMilliseconds = getUint32FromJobject(env, trigger, "timeoutMilliseconds");
 }
 
 void fillTimelapseStop(JNIEnv* env, jobject timelapse, TIMELAPSE_STOP_TRIGGER* record) {
-  record->totalDuration = intField(env, timelapse, "totalDuration");
-  record->periodicDuration = intField(env, timelapse, "periodicDuration");
+  record->totalDuration = getUint32FromJobject(env, timelapse, "totalDuration");
+  record->periodicDuration = getUint32FromJobject(env, timelapse, "periodicDuration");
 }
 
 // The variant objects of a start value are not tested for null.
@@ -73,9 +63,9 @@ void fillStartValue(JNIEnv* env, jobject value, START_TRIGGER* record, StartTime
   switch (record->type) {
     case kStartPeriodic: {
       jobject periodic = getJobjectFromJobject(env, value, "periodic", "Lcom/kovra/rfid/orla/PERIODIC_TRIGGER;");
-      v.periodic.periodMilliseconds = intField(env, periodic, "periodMilliseconds");
+      v.periodic.periodMilliseconds = getUint32FromJobject(env, periodic, "periodMilliseconds");
       if (startTime == StartTime::OwnRecord) v.periodic.startTime = new SYSTEMTIME();
-      jobject time = getJobjectFromJobject(env, periodic, "startTime", "Lcom/kovra/rfid/orla/SYSTEMTIME;");
+      jobject time = getJobjectFromJobject(env, periodic, "startTime", kSystemTimeSignature);
       getSystemTimeFromJobject(env, time, v.periodic.startTime);
       break;
     }
@@ -88,15 +78,15 @@ void fillStartValue(JNIEnv* env, jobject value, START_TRIGGER* record, StartTime
     case kStartTimelapse: {
       jobject timelapse =
           getJobjectFromJobject(env, value, "timelapse", "Lcom/kovra/rfid/orla/TIMELAPSE_START_TRIGGER;");
-      v.timelapse.period = intField(env, timelapse, "period");
+      v.timelapse.period = getUint32FromJobject(env, timelapse, "period");
       if (startTime == StartTime::OwnRecord) v.timelapse.startTime = new TIMEOFDAY();
-      jobject time = getJobjectFromJobject(env, timelapse, "startTime", "Lcom/kovra/rfid/orla/TIMEOFDAY;");
+      jobject time = getJobjectFromJobject(env, timelapse, "startTime", kTimeOfDaySignature);
       getTimeOfDayFromJobject(env, time, v.timelapse.startTime);
       break;
     }
     case kStartDistance: {
       jobject distance = getJobjectFromJobject(env, value, "distance", "Lcom/kovra/rfid/orla/DISTANCE_TRIGGER;");
-      v.distance.value = intField(env, distance, "value");
+      v.distance.value = getUint32FromJobject(env, distance, "value");
       break;
     }
     default:
@@ -120,7 +110,7 @@ void fillStopValue(JNIEnv* env, jobject value, STOP_TRIGGER* record) {
   jobject variant = nullptr;
   switch (record->type) {
     case kStopDuration:
-      v.duration = intField(env, value, "duration");
+      v.duration = getUint32FromJobject(env, value, "duration");
       break;
     case kStopGpi:
       variant = getJobjectFromJobject(env, value, "gpi", kGpiTriggerSignature);
@@ -183,7 +173,7 @@ void fillTagEvent(JNIEnv* env, jobject events, const char* eventField, const cha
   jobject eventObject = getJobjectFromJobject(env, events, eventField, eventSignature);
   if (eventObject == nullptr) return;
   *event = ordinalOf(env, eventObject);
-  *timeout = shortField(env, events, timeoutField);
+  *timeout = getUint16FromJobject(env, events, timeoutField);
 }
 
 void fillTagEventReportInfo(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record) {
@@ -212,13 +202,13 @@ void fillTagEventReportInfo(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* reco
 void fillReportTriggers(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record) {
   jobject reports = getJobjectFromJobject(env, triggerInfo, "reportTriggers", "Lcom/kovra/rfid/orla/REPORT_TRIGGERS;");
   if (reports == nullptr || record->reportTriggers == nullptr) return;
-  record->reportTriggers->periodicReportDuration = intField(env, reports, "periodicReportDuration");
+  record->reportTriggers->periodicReportDuration = getUint32FromJobject(env, reports, "periodicReportDuration");
 }
 
 }  // namespace
 
 void GetTriggerInfoFromJobject(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record) {
-  record->tagReportTrigger = intField(env, triggerInfo, "tagReportTrigger");
+  record->tagReportTrigger = getUint32FromJobject(env, triggerInfo, "tagReportTrigger");
   jobject start = getJobjectFromJobject(env, triggerInfo, "startTrigger", kStartTriggerSignature);
   if (start != nullptr) fillStartTrigger(env, start, &record->startTrigger, StartTime::Preset);
   jobject stop = getJobjectFromJobject(env, triggerInfo, "stopTrigger", kStopTriggerSignature);

@@ -1,6 +1,6 @@
-// A name (profile, file, package or application) on its way to the reader:
-// a zeroed 260-character wide buffer holding the Java string's text, so a
-// null string arrives as an empty name.
+// A name (host, profile, file, package or application) on its way to the
+// reader: a zeroed 260-character wide buffer holding the Java string's
+// text, so a null string arrives as an empty name.
 #pragma once
 
 #include <jni.h>

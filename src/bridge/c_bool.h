@@ -1,5 +1,6 @@
 // Java booleans on their way into the C API's one-byte booleans: any
-// non-zero Java value becomes exactly 1.
+// non-zero Java value becomes exactly 1, false becomes 0. (The way back
+// needs no help: setBoolInJobject passes the C byte on as it stands.)
 #pragma once
 
 #include <jni.h>

@@ -8,8 +8,14 @@
 
 #include <cstdint>
 
+#include "bridge/unsigned_fields.h"
 #include "jni_fields.h"
 #include "reader_api.h"
+
+// Descriptors of the two Java mirrors, for fetching them from the objects
+// that hold them.
+inline constexpr const char* kSystemTimeSignature = "Lcom/kovra/rfid/orla/SYSTEMTIME;";
+inline constexpr const char* kTimeOfDaySignature = "Lcom/kovra/rfid/orla/TIMEOFDAY;";
 
 inline void setSystemTimeInJobject(JNIEnv* env, jobject time, const SYSTEMTIME& record) {
   setShortInJobject(env, time, "Year", static_cast<short>(record.Year));
@@ -23,18 +29,18 @@ inline void setSystemTimeInJobject(JNIEnv* env, jobject time, const SYSTEMTIME& 
 }
 
 inline void getSystemTimeFromJobject(JNIEnv* env, jobject time, SYSTEMTIME* record) {
-  record->Year = static_cast<uint16_t>(getShortFromJobject(env, time, "Year"));
-  record->Month = static_cast<uint16_t>(getShortFromJobject(env, time, "Month"));
-  record->DayOfWeek = static_cast<uint16_t>(getShortFromJobject(env, time, "DayOfWeek"));
-  record->Day = static_cast<uint16_t>(getShortFromJobject(env, time, "Day"));
-  record->Hour = static_cast<uint16_t>(getShortFromJobject(env, time, "Hour"));
-  record->Minute = static_cast<uint16_t>(getShortFromJobject(env, time, "Minute"));
-  record->Second = static_cast<uint16_t>(getShortFromJobject(env, time, "Second"));
-  record->Milliseconds = static_cast<uint16_t>(getShortFromJobject(env, time, "Milliseconds"));
+  record->Year = getUint16FromJobject(env, time, "Year");
+  record->Month = getUint16FromJobject(env, time, "Month");
+  record->DayOfWeek = getUint16FromJobject(env, time, "DayOfWeek");
+  record->Day = getUint16FromJobject(env, time, "Day");
+  record->Hour = getUint16FromJobject(env, time, "Hour");
+  record->Minute = getUint16FromJobject(env, time, "Minute");
+  record->Second = getUint16FromJobject(env, time, "Second");
+  record->Milliseconds = getUint16FromJobject(env, time, "Milliseconds");
 }
 
 inline void getTimeOfDayFromJobject(JNIEnv* env, jobject time, TIMEOFDAY* record) {
-  record->Hour = static_cast<uint16_t>(getShortFromJobject(env, time, "Hour"));
-  record->Minute = static_cast<uint16_t>(getShortFromJobject(env, time, "Minute"));
-  record->Second = static_cast<uint16_t>(getShortFromJobject(env, time, "Second"));
+  record->Hour = getUint16FromJobject(env, time, "Hour");
+  record->Minute = getUint16FromJobject(env, time, "Minute");
+  record->Second = getUint16FromJobject(env, time, "Second");
 }
