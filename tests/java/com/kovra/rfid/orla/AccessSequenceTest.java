@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -283,7 +282,7 @@ class AccessSequenceTest extends NativeTest {
 
     @Test
     void aSimulatedReaderNumbersTheOperationsOfItsSequence() {
-        int reader = TagDataTest.connect();
+        int reader = connect();
         assertEquals(0, ORLANatives.RFID_InitializeAccessSequence(reader));
         int[] index = {-1};
         ACCESS_OPERATION read = new ACCESS_OPERATION();

@@ -11,14 +11,6 @@ import org.junit.jupiter.api.Test;
 
 class ConnectionTest extends NativeTest {
 
-    private static final int HOST_CHARS = 260;
-    private static final int INVALID_HANDLE = 1;
-
-    private static RFID_VERSION lastVersion() {
-        RFID_VERSION[] all = RFID_VERSION.values();
-        return all[all.length - 1];
-    }
-
     private static CONNECTION_INFO info(SEC_CONNECTION_INFO secure) {
         CONNECTION_INFO info = new CONNECTION_INFO();
         info.version = lastVersion();
@@ -45,20 +37,6 @@ class ConnectionTest extends NativeTest {
 
     private static byte[] captured(String name) {
         return SimControl.blob("RFID_ConnectW", -1, name);
-    }
-
-    private static void assertZero(byte[] b, int from, int to) {
-        for (int i = from; i < to; i++) {
-            assertEquals(0, b[i], "byte " + i);
-        }
-    }
-
-    private static String name(int length) {
-        StringBuilder sb = new StringBuilder(length);
-        for (int i = 0; i < length; i++) {
-            sb.append((char) ('A' + i % 26));
-        }
-        return sb.toString();
     }
 
     private static void assertHostChars(byte[] host, String expected) {
@@ -92,27 +70,27 @@ class ConnectionTest extends NativeTest {
     void hostNameFillsA260CharacterBufferAndIsCutWithoutTerminator() {
         long[] handle = new long[1];
 
-        String fits = name(HOST_CHARS - 1);
+        String fits = letters(TEXT_CHARS - 1);
         ORLANatives.RFID_Connect(handle, fits, 0, 0, info(null));
         byte[] host = captured("hostName");
-        assertEquals(4 * HOST_CHARS, host.length);
+        assertEquals(4 * TEXT_CHARS, host.length);
         assertHostChars(host, fits);
-        assertEquals(0L, Bytes.u32(host, 4 * (HOST_CHARS - 1)), "terminator after 259 characters");
+        assertEquals(0L, Bytes.u32(host, 4 * (TEXT_CHARS - 1)), "terminator after 259 characters");
 
-        String exact = name(HOST_CHARS);
+        String exact = letters(TEXT_CHARS);
         ORLANatives.RFID_Connect(handle, exact, 0, 0, info(null));
         assertHostChars(captured("hostName"), exact);
 
-        ORLANatives.RFID_Connect(handle, name(HOST_CHARS + 40), 0, 0, info(null));
+        ORLANatives.RFID_Connect(handle, letters(TEXT_CHARS + 40), 0, 0, info(null));
         host = captured("hostName");
-        assertEquals(4 * HOST_CHARS, host.length);
-        assertHostChars(host, name(HOST_CHARS));
+        assertEquals(4 * TEXT_CHARS, host.length);
+        assertHostChars(host, letters(TEXT_CHARS));
 
         ORLANatives.RFID_Connect(handle, null, 0, 0, info(null));
-        assertZero(captured("hostName"), 0, 4 * HOST_CHARS);
+        assertZero(captured("hostName"), 0, 4 * TEXT_CHARS);
 
         ORLANatives.RFID_Connect(handle, "", 0, 0, info(null));
-        assertZero(captured("hostName"), 0, 4 * HOST_CHARS);
+        assertZero(captured("hostName"), 0, 4 * TEXT_CHARS);
     }
 
     @Test
@@ -144,8 +122,8 @@ class ConnectionTest extends NativeTest {
                 captured("connInfo.secConnInfo.rootCertBuff"));
 
         SEC_CONNECTION_INFO raw = secure(true, true);
-        TagDataTest.rawBoolean(raw, "secureMode", 2);
-        TagDataTest.rawBoolean(raw, "validatePeerCert", 0x40);
+        rawBoolean(raw, "secureMode", 2);
+        rawBoolean(raw, "validatePeerCert", 0x40);
         ORLANatives.RFID_Connect(new long[1], "secure", 0, 0, info(raw));
         sec = captured("connInfo.secConnInfo");
         assertEquals(1, Bytes.u8(sec, 0), "any non-zero flag counts as set and is stored as 1");

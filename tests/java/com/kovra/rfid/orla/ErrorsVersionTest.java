@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.LoginTest.letters;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 
@@ -12,10 +11,6 @@ import org.junit.jupiter.api.Test;
 class ErrorsVersionTest extends NativeTest {
 
     private static final String LAST_ERROR = "RFID_GetLastErrorInfoW";
-
-    private static short[] timeStamp(SYSTEMTIME t) {
-        return new short[] {t.Year, t.Month, t.DayOfWeek, t.Day, t.Hour, t.Minute, t.Second, t.Milliseconds};
-    }
 
     private static byte[] errorRecord() {
         Bytes.Builder r = new Bytes.Builder(2120);
@@ -36,7 +31,7 @@ class ErrorsVersionTest extends NativeTest {
         assertEquals("Invalid parameter", info.statusDesc);
         assertEquals("antenna 3 open", info.vendorMessage);
         assertEquals(0x8000_0005, info.enumRfidStatusCode);
-        assertArrayEquals(new short[] {2024, -1, -32768, 31, 23, 59, 58, 999}, timeStamp(info.errorTimeStamp));
+        assertArrayEquals(new short[] {2024, -1, -32768, 31, 23, 59, 58, 999}, members(info.errorTimeStamp));
 
         SimControl.setStatus(LAST_ERROR, 1);
         ERROR_INFO untouched = new ERROR_INFO();
@@ -44,7 +39,7 @@ class ErrorsVersionTest extends NativeTest {
         assertEquals(1, ORLANatives.RFID_GetLastErrorInfo(5, untouched), "the simulator still wrote the record");
         assertArrayEquals(new Object[] {"before", null, 0}, new Object[] {untouched.statusDesc,
             untouched.vendorMessage, untouched.enumRfidStatusCode});
-        assertArrayEquals(new short[8], timeStamp(untouched.errorTimeStamp));
+        assertArrayEquals(new short[8], members(untouched.errorTimeStamp));
     }
 
     @Test

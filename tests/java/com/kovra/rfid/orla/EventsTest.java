@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -53,7 +52,7 @@ class EventsTest extends NativeTest {
         long[] args = SimControl.args("rfidUtils_WaitForMultipleObjects", -1);
         assertArrayEquals(new long[] {2, 0}, new long[] {args[0], args[2]});
         byte[] copied = SimControl.blob("rfidUtils_WaitForMultipleObjects", -1, "handles");
-        assertArrayEquals(new long[] {first, second}, TagDataTest.fields(copied, 0, 8, 8, 8));
+        assertArrayEquals(new long[] {first, second}, fields(copied, 0, 8, 8, 8));
 
         assertEquals(WAIT_TIMEOUT, ORLANatives.rfidUtils_WaitForMultipleObjects(2, handles, true, 0));
         assertEquals(1L, SimControl.args("rfidUtils_WaitForMultipleObjects", -1)[2]);

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -14,9 +12,6 @@ import org.junit.jupiter.api.Test;
 
 /** GPI ports, GPO states, the GPI debounce pair and the user LED. */
 class GpioLedTest extends NativeTest {
-
-    private static final int FAILED = 9;
-    private static final int INVALID_HANDLE = 1;
 
     @Test
     void portSettersPassHandlePortAndFlag() {

@@ -1,10 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.LoginTest.TEXT_CHARS;
-import static com.kovra.rfid.orla.LoginTest.assertZero;
-import static com.kovra.rfid.orla.LoginTest.lastVersion;
-import static com.kovra.rfid.orla.LoginTest.letters;
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;

@@ -13,30 +13,6 @@ import org.junit.jupiter.api.Test;
 /** The login record, the handle of the management session, logout and restart. */
 class LoginTest extends NativeTest {
 
-    static final int TEXT_CHARS = 260;
-    private static final int INVALID_HANDLE = 1;
-    private static final int INVALID_PARAM = 2;
-
-    static RFID_VERSION lastVersion() {
-        RFID_VERSION[] all = RFID_VERSION.values();
-        return all[all.length - 1];
-    }
-
-    /** length letters A..Z, repeating. */
-    static String letters(int length) {
-        StringBuilder sb = new StringBuilder(length);
-        for (int i = 0; i < length; i++) {
-            sb.append((char) ('A' + i % 26));
-        }
-        return sb.toString();
-    }
-
-    static void assertZero(byte[] b, int from, int to) {
-        for (int i = from; i < to; i++) {
-            assertEquals(0, b[i], "byte " + i);
-        }
-    }
-
     private static LOGIN_INFO login(String host, String user, String password, boolean force) {
         LOGIN_INFO info = new LOGIN_INFO();
         info.hostName = host;

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -16,9 +14,6 @@ import org.junit.jupiter.api.Test;
 
 /** RF mode, duty cycle, radio power, idle time-out, power negotiation and USB operation mode. */
 class RadioTest extends NativeTest {
-
-    private static final int FAILED = 9;
-    private static final int INVALID_HANDLE = 1;
 
     @Test
     void settersPassTheirArgumentsInOrderAtTheirWidths() {

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -56,14 +54,14 @@ class StorageSingulationTest extends NativeTest {
     void booleansGoOutAsZeroOrOneAndComeBackAsTheyStand() {
         int reader = connect();
         TAG_STORAGE_SETTINGS s = new TAG_STORAGE_SETTINGS();
-        TagDataTest.rawBoolean(s, "enableAccessReports", 2);
-        TagDataTest.rawBoolean(s, "discardTagsOnInventoryStop", 0x80);
+        rawBoolean(s, "enableAccessReports", 2);
+        rawBoolean(s, "discardTagsOnInventoryStop", 0x80);
         assertEquals(0, ORLANatives.RFID_SetTagStorageSettings(reader, s));
         assertArrayEquals(new long[] {1, 1},
                 fields(SimControl.blob("RFID_SetTagStorageSettings", -1, "tagStorageSettings"), 14, 1, 15, 1));
 
         SINGULATION_CONTROL c = new SINGULATION_CONTROL();
-        TagDataTest.rawBoolean(c.stateAwareSingulationAction, "perform", 2);
+        rawBoolean(c.stateAwareSingulationAction, "perform", 2);
         assertEquals(0, ORLANatives.RFID_SetSingulationControl(reader, 1, c));
         assertEquals(1, fields(SimControl.blob("RFID_SetSingulationControl", -1, "singulationControl"), 8, 1)[0]);
 

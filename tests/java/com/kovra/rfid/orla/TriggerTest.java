@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -31,17 +30,8 @@ class TriggerTest extends NativeTest {
         return inventory(trigger).blob("triggerInfo");
     }
 
-    /** A calendar time whose members are first, first + 1, ... first + 7, and its 16 bytes. */
-    private static SYSTEMTIME time(int first) {
-        short[] m = TagDataTest.sequence(first);
-        SYSTEMTIME t = new SYSTEMTIME();
-        t.Year = m[0]; t.Month = m[1]; t.DayOfWeek = m[2]; t.Day = m[3];
-        t.Hour = m[4]; t.Minute = m[5]; t.Second = m[6]; t.Milliseconds = m[7];
-        return t;
-    }
-
     private static byte[] timeBytes(int first) {
-        return TagDataTest.systemTime(new Bytes.Builder(16), 0, first).build();
+        return systemTime(new Bytes.Builder(16), 0, first).build();
     }
 
     private static TRIGGER_WITH_TIMEOUT withTimeout(int n, int timeout) {
@@ -59,7 +49,7 @@ class TriggerTest extends NativeTest {
         v.periodic.periodMilliseconds = 0x89AB_CDEF;
         v.periodic.startTime = time(0xFFF8);
         v.gpi.portNumber = (short) 0x8001;
-        TagDataTest.rawBoolean(v.gpi, "eventInfo", 2);
+        rawBoolean(v.gpi, "eventInfo", 2);
         v.gpi.timeoutMilliseconds = -1;
         v.handheld.handheldEvent = HANDHELD_TRIGGER_EVENT_TYPE.HANDHELD_TRIGGER_PRESSED;
         v.handheld.timeoutMilliseconds = 500;
@@ -104,7 +94,7 @@ class TriggerTest extends NativeTest {
         v.duration = -2;
         v.gpi = new GPI_TRIGGER();
         v.gpi.portNumber = 3;
-        TagDataTest.rawBoolean(v.gpi, "eventInfo", 0x80);
+        rawBoolean(v.gpi, "eventInfo", 0x80);
         v.gpi.timeoutMilliseconds = 0x1234_5678;
         v.tagObservation = withTimeout(0xFFFF, 700);
         v.numAttempts = withTimeout(4, 900);
@@ -163,7 +153,7 @@ class TriggerTest extends NativeTest {
         starts[1] = new START_TRIGGER();
         starts[1].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_GPI;
         starts[1].value.gpi.portNumber = 2;
-        TagDataTest.rawBoolean(starts[1].value.gpi, "eventInfo", 2);
+        rawBoolean(starts[1].value.gpi, "eventInfo", 2);
         starts[1].value.gpi.timeoutMilliseconds = 99;
         starts[3] = new START_TRIGGER();
         starts[3].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
