@@ -9,7 +9,6 @@ import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import java.lang.reflect.Field;
-import java.util.function.IntUnaryOperator;
 import org.junit.jupiter.api.Test;
 
 /** Access sequences: the operation records handed to the reader, the sequence run and its results. */
@@ -246,16 +245,7 @@ class AccessSequenceTest extends NativeTest {
     }
 
     @Test
-    void forwardersSignExtendTheHandleAndPassTheIndexUnsigned() {
-        String[] functions = {"RFID_InitializeAccessSequence", "RFID_StopAccessSequence",
-            "RFID_DeinitializeAccessSequence"};
-        IntUnaryOperator[] natives = {ORLANatives::RFID_InitializeAccessSequence,
-            ORLANatives::RFID_StopAccessSequence, ORLANatives::RFID_DeinitializeAccessSequence};
-        for (int i = 0; i < functions.length; i++) {
-            SimControl.setStatus(functions[i], 40 + i);
-            assertEquals(40 + i, natives[i].applyAsInt(0x8000_0000), functions[i]);
-            assertEquals(0xFFFF_FFFF_8000_0000L, SimControl.args(functions[i], -1)[0], functions[i]);
-        }
+    void deletePassesTheIndexUnsigned() {
         SimControl.setStatus("RFID_DeleteOperationFromAccessSequence", 43);
         assertEquals(43, ORLANatives.RFID_DeleteOperationFromAccessSequence(-1, -1));
         assertArrayEquals(new long[] {-1L, 0xFFFF_FFFFL},

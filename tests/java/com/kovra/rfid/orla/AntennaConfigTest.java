@@ -238,14 +238,4 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
         assertFalse(enabled[0]);
     }
-
-    @Test
-    void handleIsSignExtendedAndTheStatusReturnedAsIs() {
-        assertEquals(1, ORLANatives.RFID_SetAntennaMode(-2, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
-        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, Call.last("RFID_SetAntennaMode").arg(0));
-        SimControl.setStatus("RFID_SetAntennaConfig", -40);
-        assertEquals(-40, ORLANatives.RFID_SetAntennaConfig(Integer.MIN_VALUE, (short) 0, (short) 0, (short) 0,
-                (short) 0));
-        assertEquals(0xFFFF_FFFF_8000_0000L, Call.last("RFID_SetAntennaConfig").arg(0));
-    }
 }

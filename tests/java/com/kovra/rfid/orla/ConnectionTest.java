@@ -156,21 +156,6 @@ class ConnectionTest extends NativeTest {
     }
 
     @Test
-    void reconnectAndDisconnectSignExtendTheHandle() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Reconnect(-2));
-        assertEquals(0xFFFFFFFFFFFFFFFEL, SimControl.args("RFID_Reconnect", -1)[0]);
-
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_DisConnect(0x7FFFFFFF));
-        assertEquals(0x7FFFFFFFL, SimControl.args("RFID_Disconnect", -1)[0]);
-
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_DisConnect(Integer.MIN_VALUE));
-        assertEquals(0xFFFFFFFF80000000L, SimControl.args("RFID_Disconnect", -1)[0]);
-
-        SimControl.setStatus("RFID_Reconnect", -12345);
-        assertEquals(-12345, ORLANatives.RFID_Reconnect(5));
-    }
-
-    @Test
     void disconnectClosesTheSessionThatConnectOpened() {
         long[] handle = new long[1];
         assertEquals(0, ORLANatives.RFID_Connect(handle, "reader-7", 0, 0, info(null)));

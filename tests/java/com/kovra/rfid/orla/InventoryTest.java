@@ -39,20 +39,6 @@ class InventoryTest extends NativeTest {
     }
 
     @Test
-    void stopsAndPurgeForwardTheHandleAndTheStatus() {
-        String[] functions = {"RFID_StopInventory", "RFID_PurgeTags", "RFID_StopTagLocationing",
-            "RFID_StopNXPEASScan"};
-        IntUnaryOperator[] natives = {ORLANatives::RFID_StopInventory, ORLANatives::RFID_PurgeTags,
-            ORLANatives::RFID_StopTagLocationing, ORLANatives::RFID_StopNXPEASScan};
-        for (int i = 0; i < functions.length; i++) {
-            SimControl.setStatus(functions[i], -40 - i);
-            assertEquals(-40 - i, natives[i].applyAsInt(0x8000_0000), functions[i]);
-            assertEquals(0xFFFF_FFFF_8000_0000L, SimControl.args(functions[i], -1)[0], functions[i]);
-        }
-        assertEquals(0L, SimControl.args("RFID_PurgeTags", -1)[1], "purge flags are 0");
-    }
-
-    @Test
     void tagLocationingSendsTheIdAsBytes() {
         SimControl.setStatus("RFID_PerformTagLocationing", 31);
         assertEquals(31, ORLANatives.RFID_PerformTagLocationing(NO_READER, "0aF1", 2, null));

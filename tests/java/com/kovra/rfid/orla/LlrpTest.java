@@ -116,19 +116,6 @@ class LlrpTest extends NativeTest {
     }
 
     @Test
-    void initiateAndDisconnectSignExtendTheHandleAndReturnTheStatus() {
-        SimControl.setStatus("RFID_InitiateLLRPConnectionFromReader", -9);
-        assertEquals(-9, ORLANatives.RFID_InitiateLLRPConnectionFromReader(-2));
-        long[] args = SimControl.args("RFID_InitiateLLRPConnectionFromReader", -1);
-        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, args[0]);
-        assertNotEquals(0L, args[1], "an output area is always given");
-
-        SimControl.setStatus("RFID_DisconnectLLRPConnectionFromReader", 12);
-        assertEquals(12, ORLANatives.RFID_DisconnectLLRPConnectionFromReader(Integer.MIN_VALUE));
-        assertEquals(0xFFFF_FFFF_8000_0000L, SimControl.args("RFID_DisconnectLLRPConnectionFromReader", -1)[0]);
-    }
-
-    @Test
     void acceptPassesTheLongAndVersionDropsTheTimeoutAndCopiesTheHandleOnSuccessOnly() {
         ACCEPT_CONNECTION_INFO info = new ACCEPT_CONNECTION_INFO();
         info.timeoutMilliseconds = 0x5EED_7137;

@@ -82,15 +82,4 @@ class LoginTest extends NativeTest {
                 Arrays.copyOfRange(SimControl.args("RFID_LoginW", -1), 1, 3));
         assertNull(record());
     }
-
-    @Test
-    void logoutAndRestartSignExtendTheHandleAndReturnTheStatus() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Logout(-2));
-        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, SimControl.args("RFID_Logout", -1)[0]);
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Restart(Integer.MIN_VALUE));
-        assertEquals(0xFFFF_FFFF_8000_0000L, SimControl.args("RFID_Restart", -1)[0]);
-
-        SimControl.setStatus("RFID_Restart", -12345);
-        assertEquals(-12345, ORLANatives.RFID_Restart(5));
-    }
 }

@@ -219,16 +219,12 @@ class ProfilesAppsTest extends NativeTest {
     }
 
     @Test
-    void llrpSaveForwardsItsLongAndFactoryResetItsHandle() {
+    void llrpSaveForwardsItsLong() {
         SimControl.setStatus("RFID_SaveLlrpConfig", FAILED);
         assertEquals(FAILED, ORLANatives.RFID_SaveLlrpConfig(-4, 0x8000_0000_0000_0001L));
         assertArrayEquals(new long[] {-4L, 0x8000_0000_0000_0001L}, SimControl.args("RFID_SaveLlrpConfig", -1));
         ORLANatives.RFID_SaveLlrpConfig(7, -1L);
         assertEquals(-1L, arg("RFID_SaveLlrpConfig", 1));
-
-        SimControl.setStatus("RFID_ResetConfigToFactoryDefaults", 33);
-        assertEquals(33, ORLANatives.RFID_ResetConfigToFactoryDefaults(-4));
-        assertEquals(-4L, arg("RFID_ResetConfigToFactoryDefaults", 0));
     }
 
     @Test
