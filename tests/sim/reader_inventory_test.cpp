@@ -151,12 +151,6 @@ TEST_F(InventoryTest, DurationStopReadsTheSelectedAntennaAndAggregatesReads) {
   }
   EXPECT_EQ(sim::liveTagRecords(reader), 0u);
   EXPECT_EQ(RFID_StopInventory(reader), sim::kNoOperationRunning);
-
-  sim::Call call;
-  ASSERT_TRUE(sim::findCall("RFID_PerformInventory", -1, &call));
-  EXPECT_EQ(call.blobs["antennaInfo.antennaList"].bytes, (std::vector<uint8_t>{1, 0}));
-  EXPECT_FALSE(call.blobs["postFilter"].present);
-  EXPECT_EQ(call.blobs["triggerInfo"].bytes.size(), 64u);
 }
 
 TEST_F(InventoryTest, NoAntennaInfoReadsEveryAntenna) {
@@ -187,13 +181,6 @@ TEST_F(InventoryTest, PostFilterMaskAndRssiRange) {
   Record filter = Record(40).ptr(8, a.data()).put<uint32_t>(24, 4).ptr(32, range.data());
   inventory(filter.data(), nullptr, oneRound());
   EXPECT_EQ(seen(fetchAll()), (std::set<std::pair<Bytes, int16_t>>{{epcOf(1), 1}, {epcOf(3), 1}}));
-
-  sim::Call call;
-  ASSERT_TRUE(sim::findCall("RFID_PerformInventory", -1, &call));
-  EXPECT_EQ(call.blobs["postFilter.tagPatternA.tagPattern"].bytes, pattern);
-  EXPECT_EQ(call.blobs["postFilter.tagPatternA.tagMask"].bytes, mask);
-  EXPECT_EQ(call.blobs["postFilter.rssiRangeFilter"].bytes, range.bytes);
-  EXPECT_FALSE(call.blobs["postFilter.tagPatternB"].present);
 }
 
 TEST_F(InventoryTest, TagStorageSettingsCapTheBufferAndTheTagId) {
@@ -277,11 +264,6 @@ TEST_F(InventoryTest, PreFilterSelectsTagsOnItsAntennaOnly) {
   inventory(nullptr, nullptr, oneRound());
   EXPECT_EQ(seen(fetchAll()), (std::set<std::pair<Bytes, int16_t>>{
                                   {epcOf(1), 1}, {epcOf(2), 1}, {epcOf(3), 2}, {epcOf(4), 2}}));
-
-  sim::Call call;
-  ASSERT_TRUE(sim::findCall("RFID_AddPreFilter", -1, &call));
-  EXPECT_EQ(call.blobs["preFilter"].bytes.size(), 36u);
-  EXPECT_EQ(call.blobs["preFilter.tagPattern"].bytes, prefix);
 
   EXPECT_EQ(RFID_DeletePreFilter(reader, 1, 2), sim::kNotFound);
   EXPECT_EQ(RFID_DeletePreFilter(reader, 2, 1), sim::kNotFound) << "not that antenna's filter";
@@ -375,10 +357,6 @@ TEST_F(InventoryTest, LocateReportsTheTagWithItsDistance) {
   EXPECT_EQ(distance, sim::relativeDistanceFor(r.rssi));
   EXPECT_EQ(RFID_GetReadTag(reader, record), sim::kNoReadTags) << "other tags are not reported";
   RFID_DeallocateTag(reader, record);
-
-  sim::Call call;
-  ASSERT_TRUE(sim::findCall("RFID_PerformTagLocationing", -1, &call));
-  EXPECT_EQ(call.blobs["tagID"].bytes, epc);
 }
 
 TEST_F(InventoryTest, EasScanRaisesAlarmsForEasTagsInTheField) {
