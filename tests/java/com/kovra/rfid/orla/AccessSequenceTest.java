@@ -15,7 +15,6 @@ import org.junit.jupiter.api.Test;
 class AccessSequenceTest extends NativeTest {
 
     private static final String ADD = "RFID_AddOperationToAccessSequence";
-    private static final String LAST_RESULT = "RFID_GetLastAccessResult";
     /** No such reader: the simulator answers only what a test scripts. */
     private static final int NO_READER = 77;
     private static final int NOT_FOUND = 6;
@@ -250,24 +249,6 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(43, ORLANatives.RFID_DeleteOperationFromAccessSequence(-1, -1));
         assertArrayEquals(new long[] {-1L, 0xFFFF_FFFFL},
                 SimControl.args("RFID_DeleteOperationFromAccessSequence", -1));
-    }
-
-    @Test
-    void lastResultWritesBothCountsInOrderOnlyOnSuccess() {
-        SimControl.setOutput(LAST_RESULT, new Bytes.Builder(8).u32(0, 0xFFFF_FFFEL).u32(4, 7).build());
-        int[] first = {-1};
-        int[] second = {-1};
-        SimControl.queueStatus(LAST_RESULT, 0);
-        assertEquals(0, ORLANatives.RFID_GetLastAccessResult(-4, first, second));
-        assertEquals(-4L, Call.last(LAST_RESULT).arg(0));
-        assertArrayEquals(new byte[4], Call.last(LAST_RESULT).blob("first"), "counts start at 0");
-        assertArrayEquals(new byte[4], Call.last(LAST_RESULT).blob("second"));
-        assertArrayEquals(new int[] {-2, 7}, new int[] {first[0], second[0]});
-
-        SimControl.setOutput(LAST_RESULT, new Bytes.Builder(8).u32(0, 1).u32(4, 1).build());
-        SimControl.queueStatus(LAST_RESULT, 3);
-        assertEquals(3, ORLANatives.RFID_GetLastAccessResult(NO_READER, first, second));
-        assertArrayEquals(new int[] {-2, 7}, new int[] {first[0], second[0]}, "left alone on failure");
     }
 
     @Test

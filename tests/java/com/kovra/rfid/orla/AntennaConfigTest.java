@@ -160,47 +160,6 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(2f, kept.cableLossPer100Ft);
     }
 
-    /** The scalar getters: presets, zero-extended antenna, element 0 on success only. */
-    @Test
-    void scalarGettersWriteElementZeroOnlyOnSuccess() {
-        int reader = connect();
-        boolean[] flag = {false};
-        int[] value = {-9};
-        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 1).s32(1, -5).build());
-        assertEquals(0, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
-        assertEquals(ANTENNA_ARG, Call.last("RFID_GetPhysicalAntennaProperties").arg(1));
-        assertTrue(flag[0]);
-        assertEquals(-5, value[0]);
-
-        int[] mode = {-9};
-        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 0x8000_0001L).build());
-        assertEquals(0, ORLANatives.RFID_GetAntennaMode(reader, mode));
-        assertArrayEquals(new byte[4], SimControl.blob("RFID_GetAntennaMode", -1, "mode"), "preset to 0");
-        assertEquals(0x8000_0001, mode[0]);
-
-        boolean[] enabled = {false};
-        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {1});
-        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
-        assertEquals(ANTENNA_ARG, Call.last("RFID_GetReadPointStatus").arg(1));
-        assertArrayEquals(new byte[1], SimControl.blob("RFID_GetReadPointStatus", -1, "status"), "preset to 0");
-        assertTrue(enabled[0]);
-
-        for (String fn : new String[] {"RFID_GetPhysicalAntennaProperties", "RFID_GetAntennaMode",
-            "RFID_GetReadPointStatus"}) {
-            SimControl.setStatus(fn, 8);
-        }
-        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 0).s32(1, 77).build());
-        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 77).build());
-        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {0});
-        assertEquals(8, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
-        assertEquals(8, ORLANatives.RFID_GetAntennaMode(reader, mode));
-        assertEquals(8, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
-        assertTrue(flag[0]);
-        assertEquals(-5, value[0]);
-        assertEquals(0x8000_0001, mode[0]);
-        assertTrue(enabled[0]);
-    }
-
     @Test
     void settersPassTheModeOrdinalAndANormalisedEnableFlag() {
         int reader = connect();

@@ -38,6 +38,7 @@ class ForwarderTest extends NativeTest {
         natives.put("RFID_ClearReaderStats", ORLANatives::RFID_ClearReaderStats);
         natives.put("RFID_ResetConfigToFactoryDefaults", ORLANatives::RFID_ResetConfigToFactoryDefaults);
         natives.put("RFID_SetAntennaMode", h -> ORLANatives.RFID_SetAntennaMode(h, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
+        natives.put("RFID_GetLastAccessResult", h -> ORLANatives.RFID_GetLastAccessResult(h, new int[1], new int[1]));
         natives.put("RFID_SetAntennaConfig", h -> ORLANatives.RFID_SetAntennaConfig(h, (short) 1, (short) 0, (short) 0,
                 (short) 0));
         int status = -40;

@@ -181,32 +181,6 @@ class ProfilesAppsTest extends NativeTest {
     }
 
     @Test
-    void runStatusAndSaveStatusStartAtZeroAndAreWrittenOnSuccessOnly() {
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "logger"));
-        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {1});
-        USER_APP_RUN_STATUS run = new USER_APP_RUN_STATUS();
-        assertEquals(0, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
-        assertEquals("logger", text(blob("RFID_GetUserAppRunStatusW", "name"), 0));
-        assertArrayEquals(new byte[] {0}, blob("RFID_GetUserAppRunStatusW", "running"), "preset to 0");
-        assertTrue(run.runStatus);
-        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {0});
-        SimControl.setStatus("RFID_GetUserAppRunStatusW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
-        assertTrue(run.runStatus, "untouched on failure");
-
-        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {1});
-        boolean[] saved = {false};
-        assertEquals(0, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
-        assertArrayEquals(new byte[] {0}, blob("RFID_GetSaveLlrpConfigStatus", "status"), "preset to 0");
-        assertTrue(saved[0]);
-        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {0});
-        SimControl.setStatus("RFID_GetSaveLlrpConfigStatus", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
-        assertTrue(saved[0], "untouched on failure");
-    }
-
-    @Test
     void installedAppCountIsReturnedWhateverTheStatus() {
         SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 0x8000_0007L).build());
         assertEquals(0x8000_0007, ORLANatives.RFID_NumInstalledApps(-5));

@@ -37,52 +37,6 @@ class RadioTest extends NativeTest {
     }
 
     @Test
-    void rfModeIsWrittenBackOnlyOnSuccessFromZeroedSlots() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetRFMode", new Bytes.Builder(8).u32(0, 0xFFFF_FFFEL).u32(4, 7).build());
-        int[] first = {11};
-        int[] second = {22};
-        assertEquals(0, ORLANatives.RFID_GetRFMode(reader, (short) 3, first, second));
-        assertArrayEquals(new int[] {-2, 7}, new int[] {first[0], second[0]}, "first value first");
-        Call call = Call.last("RFID_GetRFMode");
-        assertEquals(3L, call.arg(1));
-        assertArrayEquals(new long[] {0, 0}, new long[] {Bytes.u32(call.blob("first"), 0),
-            Bytes.u32(call.blob("second"), 0)}, "both slots preset to 0");
-
-        SimControl.setStatus("RFID_GetRFMode", FAILED);
-        first[0] = 11;
-        second[0] = 22;
-        assertEquals(FAILED, ORLANatives.RFID_GetRFMode(reader, (short) 3, first, second));
-        assertArrayEquals(new int[] {11, 22}, new int[] {first[0], second[0]});
-    }
-
-    @Test
-    void scalarGettersWriteElementZeroOnlyOnSuccess() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetDutyCycle", new Bytes.Builder(2).u16(0, 0x8001).build());
-        short[] duty = {5};
-        assertEquals(0, ORLANatives.RFID_GetDutyCycle(reader, duty));
-        assertEquals((short) 0x8001, duty[0]);
-        assertEquals(0, Bytes.u16(Call.last("RFID_GetDutyCycle").blob("dutyCycleIndex"), 0), "preset to 0");
-        assertTrue(Call.last("RFID_GetDutyCycle").arg(2) != 0, "a scratch area is passed");
-
-        SimControl.setOutput("RFID_GetRadioPowerState", new byte[] {0});
-        boolean[] on = {true};
-        assertEquals(0, ORLANatives.RFID_GetRadioPowerState(reader, on));
-        assertFalse(on[0]);
-
-        SimControl.setStatus("RFID_GetDutyCycle", FAILED);
-        SimControl.setStatus("RFID_GetRadioPowerState", FAILED);
-        SimControl.setOutput("RFID_GetRadioPowerState", new byte[] {1});
-        duty[0] = 5;
-        on[0] = false;
-        assertEquals(FAILED, ORLANatives.RFID_GetDutyCycle(reader, duty));
-        assertEquals(FAILED, ORLANatives.RFID_GetRadioPowerState(reader, on));
-        assertEquals(5, duty[0]);
-        assertFalse(on[0]);
-    }
-
-    @Test
     void idleTimeoutIsClearedBeforeTheCallSoAFailureLeavesZero() {
         int reader = connect();
         SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 0xFFFF_FFFFL).build());
