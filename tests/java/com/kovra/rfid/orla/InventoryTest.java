@@ -6,7 +6,6 @@ import static org.junit.jupiter.api.Assertions.assertNotEquals;
 
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
-import java.util.function.IntUnaryOperator;
 import org.junit.jupiter.api.Test;
 
 /** Inventory, tag locationing and EAS scan calls: arguments, optional records and statuses. */
