@@ -114,18 +114,6 @@ class FakeEnv {
   JNIEnv env_{};
 };
 
-jvalue booleanValue(jboolean z) {
-  jvalue v{};
-  v.z = z;
-  return v;
-}
-
-jvalue shortValue(jshort s) {
-  jvalue v{};
-  v.s = s;
-  return v;
-}
-
 class PowerNegotiationTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -162,13 +150,13 @@ TEST_F(PowerNegotiationTest, SetStateReadsStatusAndPassesItAsOneOrZero) {
   Native set = native(kSetState);
   ASSERT_NE(nullptr, set);
   FakeObject state;
-  state.fields["status"] = booleanValue(0x80);
-  state.fields["powernegstate"] = booleanValue(0);
+  state.fields["status"].z = 0x80;
+  state.fields["powernegstate"].z = 0;
   EXPECT_EQ(sim::kSuccess, set(jni_.env(), nullptr, reader_, object(state)));
   EXPECT_EQ((std::vector<uint64_t>{static_cast<uint64_t>(reader_), 1}), argsOf("RFID_SetPowerNegotiationState"));
   EXPECT_EQ((std::vector<std::string>{"Get status Z"}), state.log);
 
-  state.fields["status"] = booleanValue(0);
+  state.fields["status"].z = 0;
   sim::setScriptedStatus("RFID_SetPowerNegotiationState", 7);
   EXPECT_EQ(7, set(jni_.env(), nullptr, -4, object(state)));
   EXPECT_EQ((std::vector<uint64_t>{0xFFFFFFFFFFFFFFFCull, 0}), argsOf("RFID_SetPowerNegotiationState"))
@@ -200,7 +188,7 @@ TEST_F(PowerNegotiationTest, GetStatusWritesTheLowSixteenBitsSignExtendedOnlyOnS
   EXPECT_EQ(static_cast<jshort>(0x8005), status.fields["enumMode"].s);
 
   FakeObject untouched;
-  untouched.fields["enumMode"] = shortValue(3);
+  untouched.fields["enumMode"].s = 3;
   sim::setScriptedStatus("RFID_GetPowerNegotiationStatus", 5);
   EXPECT_EQ(5, get(jni_.env(), nullptr, reader_, object(untouched)));
   EXPECT_TRUE(untouched.log.empty());
