@@ -244,14 +244,6 @@ class AccessSequenceTest extends NativeTest {
     }
 
     @Test
-    void deletePassesTheIndexUnsigned() {
-        SimControl.setStatus("RFID_DeleteOperationFromAccessSequence", 43);
-        assertEquals(43, ORLANatives.RFID_DeleteOperationFromAccessSequence(-1, -1));
-        assertArrayEquals(new long[] {-1L, 0xFFFF_FFFFL},
-                SimControl.args("RFID_DeleteOperationFromAccessSequence", -1));
-    }
-
-    @Test
     void aSimulatedReaderNumbersTheOperationsOfItsSequence() {
         int reader = connect();
         assertEquals(0, ORLANatives.RFID_InitializeAccessSequence(reader));

@@ -66,11 +66,4 @@ class ErrorsVersionTest extends NativeTest {
         assertEquals(7, ORLANatives.RFID_GetDllVersionInfo(version));
         assertEquals("before", version.dllVersion);
     }
-
-    @Test
-    void traceLevelPassesHandleSignExtendedAndLevelAs32Bits() {
-        SimControl.setStatus("RFID_SetTraceLevel", -4);
-        assertEquals(-4, ORLANatives.RFID_SetTraceLevel(-1, Integer.MIN_VALUE));
-        assertArrayEquals(new long[] {-1L, 0x8000_0000L}, SimControl.args("RFID_SetTraceLevel", -1));
-    }
 }

@@ -36,11 +36,6 @@ class EventsTest extends NativeTest {
         assertEquals(WAIT_FAILED, ORLANatives.rfidUtils_WaitForSingleObject((int) wide, -1));
         assertArrayEquals(new long[] {0xFFFF_FFFF_8000_0005L, -1L},
                 SimControl.args("rfidUtils_WaitForSingleObject", -1), "handle and time-out sign-extended");
-        ORLANatives.RFID_RegisterEventNotification(-7, RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT, (int) wide);
-        assertArrayEquals(new long[] {-7L, 10, 0xFFFF_FFFF_8000_0005L},
-                SimControl.args("RFID_RegisterEventNotification", -1));
-        ORLANatives.RFID_DeregisterEventNotification(-7, RFID_EVENT_TYPE.GPS_DATA_EVENT);
-        assertArrayEquals(new long[] {-7L, 15}, SimControl.args("RFID_DeregisterEventNotification", -1));
     }
 
     @Test

@@ -21,8 +21,6 @@ public abstract class NativeTest {
 
     /** What the simulated reader answers for a handle that is no open session. */
     static final int INVALID_HANDLE = 1;
-    /** ... and for a NULL or unreadable record. */
-    static final int INVALID_PARAM = 2;
     /** A status scripted for a failing call. */
     static final int FAILED = 9;
     /** Characters of the fixed wide-text fields of the reader's records. */

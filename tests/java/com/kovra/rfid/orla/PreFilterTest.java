@@ -89,14 +89,4 @@ class PreFilterTest extends NativeTest {
         assertNotEquals(0L, call.arg(3), "the index still has a place to go");
         assertNull(call.blob("preFilter"));
     }
-
-    @Test
-    void deleteTakesTheIndexTheReaderGave() {
-        int reader = connect();
-        int[] index = {-1};
-        assertEquals(0, ORLANatives.RFID_AddPreFilter(reader, 3, filter(null, null, null), index));
-        assertEquals(0, ORLANatives.RFID_DeletePreFilter(reader, 3, index[0]));
-        ORLANatives.RFID_DeletePreFilter(-3, 0x1_FFFF, -1);
-        assertArrayEquals(new long[] {-3L, 0xFFFF, 0xFFFF_FFFFL}, SimControl.args("RFID_DeletePreFilter", -1));
-    }
 }

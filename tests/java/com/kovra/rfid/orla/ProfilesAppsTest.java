@@ -193,15 +193,6 @@ class ProfilesAppsTest extends NativeTest {
     }
 
     @Test
-    void llrpSaveForwardsItsLong() {
-        SimControl.setStatus("RFID_SaveLlrpConfig", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_SaveLlrpConfig(-4, 0x8000_0000_0000_0001L));
-        assertArrayEquals(new long[] {-4L, 0x8000_0000_0000_0001L}, SimControl.args("RFID_SaveLlrpConfig", -1));
-        ORLANatives.RFID_SaveLlrpConfig(7, -1L);
-        assertEquals(-1L, arg("RFID_SaveLlrpConfig", 1));
-    }
-
-    @Test
     void theSimulatedReaderKeepsProfilesUpdatesAndApplications() {
         int reader = connect();
         PROFILE_LIST profiles = new PROFILE_LIST();

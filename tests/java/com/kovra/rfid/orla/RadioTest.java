@@ -16,27 +16,6 @@ import org.junit.jupiter.api.Test;
 class RadioTest extends NativeTest {
 
     @Test
-    void settersPassTheirArgumentsInOrderAtTheirWidths() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_SetRFMode(-5, (short) 0x8001, -1, 0x1234_5678));
-        assertArrayEquals(new long[] {-5L, 0x8001, 0xFFFF_FFFFL, 0x1234_5678},
-                SimControl.args("RFID_SetRFMode", -1), "handle sign-extended, antenna 16 bits, values unsigned");
-
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_SetDutyCycle(reader, (short) -2));
-        Call duty = Call.last("RFID_SetDutyCycle");
-        assertEquals(0xFFFEL, duty.arg(1));
-        assertTrue(duty.arg(2) != 0, "a scratch area is passed");
-
-        assertEquals(0, ORLANatives.RFID_TurnOffRadioWhenIdle(reader, 0x8000_0000));
-        assertEquals(0x8000_0000L, Call.last("RFID_TurnOffRadioWhenIdle").arg(1));
-
-        assertEquals(0, ORLANatives.RFID_SetRadioPowerState(reader, true));
-        assertEquals(1L, Call.last("RFID_SetRadioPowerState").arg(1));
-        assertEquals(0, ORLANatives.RFID_SetRadioPowerState(reader, false));
-        assertEquals(0L, Call.last("RFID_SetRadioPowerState").arg(1));
-    }
-
-    @Test
     void idleTimeoutIsClearedBeforeTheCallSoAFailureLeavesZero() {
         int reader = connect();
         SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 0xFFFF_FFFFL).build());

@@ -160,11 +160,6 @@ class ReaderInfoTest extends NativeTest {
         assertArrayEquals(new long[] {0xFFFF, 2, 3, 4, 5, 6, 7, 0x8000},
                 fields(SimControl.blob("RFID_SetLocalTime", -1, "time"), 0, 2, 2, 2, 4, 2, 6, 2, 8, 2,
                         10, 2, 12, 2, 14, 2));
-
-        SimControl.setStatus("RFID_SetTimeZone", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_SetTimeZone(-3, (short) -2));
-        assertArrayEquals(new long[] {-3L, 0xFFFE}, SimControl.args("RFID_SetTimeZone", -1),
-                "handle sign-extended, index as 16 bits");
     }
 
     @Test
