@@ -59,12 +59,6 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(3, stop.enumstopTriggerType);
         assertSame(ANTENNA_STOP_TRIGGER_TYPE.ANTENNA_STOP_TRIGGER_TYPE_NONE, stop.stopTriggerType,
                 "the enum object is only read, by the setter");
-
-        SimControl.setStatus("RFID_GetAntennaRfConfig", 4);
-        ANTENNA_RF_CONFIG kept = new ANTENNA_RF_CONFIG();
-        assertEquals(4, ORLANatives.RFID_GetAntennaRfConfig(reader, ANTENNA, kept));
-        assertArrayEquals(new long[] {0, 0, 0, 0, 0}, new long[] {kept.transmitPowerIndex, kept.rfModeTableIndex,
-            kept.tari, kept.antennaStopTrigger.stopTriggerValue, kept.antennaStopTrigger.enumstopTriggerType});
     }
 
     @Test
@@ -148,12 +142,6 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(33.25f, c.cableLengthInFt);
         assertEquals(-1.5f, c.cableLossPer100Ft);
         assertEquals(-3, c.antennaID, "the antenna is not written back");
-
-        SimControl.setStatus("RFID_GetCableLossCompensation", 6);
-        CABLE_LOSS_COMPENSATION kept = cableLoss(1, 1f, 2f);
-        assertEquals(6, ORLANatives.RFID_GetCableLossCompensation(reader, kept));
-        assertEquals(1f, kept.cableLengthInFt);
-        assertEquals(2f, kept.cableLossPer100Ft);
     }
 
     /** Without scripts the simulated reader answers with what was set on it. */

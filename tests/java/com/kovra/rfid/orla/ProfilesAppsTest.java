@@ -127,12 +127,6 @@ class ProfilesAppsTest extends NativeTest {
         assertEquals(1144, blob("RFID_GetUpdateStatusW", "status").length);
         assertEquals(-1, status.percentage);
         assertEquals("copying image 3/7", status.updateInfo);
-
-        UPDATE_STATUS untouched = new UPDATE_STATUS();
-        SimControl.setStatus("RFID_GetUpdateStatusW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetUpdateStatus(reader, untouched));
-        assertEquals(0, untouched.percentage);
-        assertNull(untouched.updateInfo);
     }
 
     private static USER_APP_INFO[] apps(int n) {

@@ -36,13 +36,6 @@ class StorageSingulationTest extends NativeTest {
                 new int[] {got.maxTagCount, got.maxMemoryBankByteCount, got.maxTagIDByteCount, got.tagFields});
         assertTrue(got.enableAccessReports);
         assertFalse(got.discardTagsOnInventoryStop);
-
-        SimControl.setStatus("RFID_GetTagStorageSettings", 5);
-        TAG_STORAGE_SETTINGS kept = new TAG_STORAGE_SETTINGS();
-        assertEquals(5, ORLANatives.RFID_GetTagStorageSettings(reader, kept));
-        assertArrayEquals(new int[4], new int[] {kept.maxTagCount, kept.maxMemoryBankByteCount,
-            kept.maxTagIDByteCount, kept.tagFields});
-        assertFalse(kept.enableAccessReports);
     }
 
     /**
@@ -111,11 +104,5 @@ class StorageSingulationTest extends NativeTest {
         assertSame(SESSION.SESSION_S0, c.session);
         assertSame(INVENTORY_STATE.INVENTORY_STATE_A, a.inventoryState);
         assertSame(SL_FLAG.SL_ALL, a.slFlag);
-
-        SimControl.setStatus("RFID_GetSingulationControl", 6);
-        SINGULATION_CONTROL kept = new SINGULATION_CONTROL();
-        assertEquals(6, ORLANatives.RFID_GetSingulationControl(reader, 4, kept));
-        assertArrayEquals(new short[3], new short[] {kept.enumSession, kept.tagPopulation, kept.tagTransitTimeMilliseconds});
-        assertFalse(kept.stateAwareSingulationAction.perform);
     }
 }
