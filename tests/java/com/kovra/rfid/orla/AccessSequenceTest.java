@@ -81,6 +81,7 @@ class AccessSequenceTest extends NativeTest {
 
     @Test
     void gen2OperationsFillTheirRecordsBlockWriteFromTheWriteParameters() {
+        // Read, erase, lock and kill records keep what the heap gave them around their fields.
         ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_READ);
         op.readAccessParamsStruct.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
         op.readAccessParamsStruct.byteOffset = (short) 0x8001;

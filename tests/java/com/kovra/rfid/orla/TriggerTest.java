@@ -79,15 +79,6 @@ class TriggerTest extends NativeTest {
     }
 
     @Test
-    void immediateStartLeavesBothZeroedTimeBlocksInPlace() {
-        long[] pointers = fields(record(new TRIGGER_INFO()), 8, 8, 16, 8);
-        assertNotEquals(0L, pointers[0]);
-        assertNotEquals(0L, pointers[1]);
-        assertArrayEquals(new byte[6], SimControl.read(pointers[0], 6), "never freed, so still readable");
-        assertArrayEquals(new byte[16], SimControl.read(pointers[1], 16));
-    }
-
-    @Test
     void stopValuesSitAtTheirOffsets() {
         TRIGGER_INFO t = new TRIGGER_INFO();
         STOP_TRIGGER_VALUE v = t.stopTrigger.value;
@@ -114,13 +105,24 @@ class TriggerTest extends NativeTest {
     }
 
     @Test
+    void aDefaultTriggerHasZeroedTimeBlocksReportStorageAndExtraBlock() {
+        Call call = inventory(new TRIGGER_INFO());
+        long[] pointers = fields(call.blob("triggerInfo"), 8, 8, 16, 8);
+        assertArrayEquals(new byte[6], SimControl.read(pointers[0], 6), "never freed, so still readable");
+        assertArrayEquals(new byte[16], SimControl.read(pointers[1], 16));
+        assertNull(call.blob("triggerInfo.tagEventReportInfo"), "no tag event reporting: NULL");
+        assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
+        assertArrayEquals(new byte[256], call.blob("triggerInfo.extraTriggers"));
+
+        TRIGGER_INFO noArrays = new TRIGGER_INFO();
+        noArrays.extraTriggers.startTrigger = null;
+        noArrays.extraTriggers.stopTrigger = null;
+        assertArrayEquals(new byte[256], inventory(noArrays).blob("triggerInfo.extraTriggers"));
+    }
+
+    @Test
     void tagEventsAndReportTriggers() {
         TRIGGER_INFO t = new TRIGGER_INFO();
-        Call call = inventory(t);
-        assertEquals(0L, fields(call.blob("triggerInfo"), 40, 8)[0], "no tag event reporting: NULL");
-        assertNull(call.blob("triggerInfo.tagEventReportInfo"));
-        assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
-
         t.tagEventReportInfo = new TAG_EVENT_REPORT_INFO();
         t.tagEventReportInfo.reportNewTagEvent = TAG_EVENT_REPORT_TRIGGER.MODERATED;
         t.tagEventReportInfo.newTagEventModeratedTimeoutMilliseconds = (short) 0x8001;
@@ -131,19 +133,10 @@ class TriggerTest extends NativeTest {
         t.tagEventReportInfo.tagStationaryModeratedTimeoutMilliseconds = -1;
         t.reportTriggers = new REPORT_TRIGGERS();
         t.reportTriggers.periodicReportDuration = -1;
-        call = inventory(t);
+        Call call = inventory(t);
         assertArrayEquals(new long[] {2, 0x8001, 1, 200, 0, 300, 1, 0xFFFF}, fields(
                 call.blob("triggerInfo.tagEventReportInfo"), 0, 4, 4, 2, 8, 4, 12, 2, 16, 4, 20, 2, 24, 4, 28, 2));
         assertArrayEquals(new long[] {0xFFFF_FFFFL}, fields(call.blob("triggerInfo.reportTriggers"), 0, 4));
-    }
-
-    @Test
-    void extraBlockIsZeroWithoutEntries() {
-        assertArrayEquals(new byte[256], inventory(new TRIGGER_INFO()).blob("triggerInfo.extraTriggers"));
-        TRIGGER_INFO noArrays = new TRIGGER_INFO();
-        noArrays.extraTriggers.startTrigger = null;
-        noArrays.extraTriggers.stopTrigger = null;
-        assertArrayEquals(new byte[256], inventory(noArrays).blob("triggerInfo.extraTriggers"));
     }
 
     @Test
