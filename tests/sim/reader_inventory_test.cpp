@@ -161,7 +161,7 @@ TEST_F(InventoryTest, NoAntennaInfoReadsEveryAntenna) {
   for (const Read& r : reads) EXPECT_EQ(r.seenCount, 1) << "one round";
 }
 
-TEST_F(InventoryTest, PostFilterPatternSelectsByEpcPrefix) {
+TEST_F(InventoryTest, PostFilterSelectsByPatternMaskAndRssiRange) {
   const Bytes prefix = {0x30, 0x34};
   Record pattern = epcPattern(prefix);
   Record filter = Record(40).ptr(8, pattern.data()).put<uint32_t>(24, 4 /* A */);
@@ -171,14 +171,12 @@ TEST_F(InventoryTest, PostFilterPatternSelectsByEpcPrefix) {
   filter.put<uint32_t>(24, 5 /* not A */);
   inventory(filter.data(), nullptr, oneRound());
   EXPECT_EQ(seen(fetchAll()), (std::set<std::pair<Bytes, int16_t>>{{epcOf(1), 1}, {epcOf(2), 1}}));
-}
 
-TEST_F(InventoryTest, PostFilterMaskAndRssiRange) {
-  const Bytes pattern = {0x30, 0xFF};
+  const Bytes masked = {0x30, 0xFF};
   const Bytes mask = {0xFF, 0x00};  // only the first byte counts
-  Record a = epcPattern(pattern).ptr(24, mask.data()).put<uint16_t>(32, 16);
+  Record a = epcPattern(masked).ptr(24, mask.data()).put<uint16_t>(32, 16);
   Record range = Record(8).put<int8_t>(0, -50).put<int8_t>(1, -30).put<uint32_t>(4, 0 /* within */);
-  Record filter = Record(40).ptr(8, a.data()).put<uint32_t>(24, 4).ptr(32, range.data());
+  filter = Record(40).ptr(8, a.data()).put<uint32_t>(24, 4).ptr(32, range.data());
   inventory(filter.data(), nullptr, oneRound());
   EXPECT_EQ(seen(fetchAll()), (std::set<std::pair<Bytes, int16_t>>{{epcOf(1), 1}, {epcOf(3), 1}}));
 }
@@ -197,13 +195,6 @@ TEST_F(InventoryTest, TagStorageSettingsCapTheBufferAndTheTagId) {
   const std::vector<Read> reads = fetchAll();
   ASSERT_EQ(reads.size(), 2u);
   for (const Read& r : reads) EXPECT_EQ(r.epc.size(), 4u);
-}
-
-TEST_F(InventoryTest, DiscardOnStopEmptiesTheBuffer) {
-  Record settings = Record(16).put<uint32_t>(0, 4096).put<uint32_t>(8, 64).put<uint8_t>(15, 1);
-  ASSERT_EQ(RFID_SetTagStorageSettings(reader, settings.data()), sim::kSuccess);
-  inventory(nullptr, nullptr, oneRound());
-  EXPECT_EQ(sim::findReader(reader)->buffer.size(), 0u);
 }
 
 TEST_F(InventoryTest, OneOperationAtATimeAndScriptedFailureStartsNothing) {
@@ -246,12 +237,17 @@ TEST_F(InventoryTest, ClosingTheSessionStopsItsInventory) {
   EXPECT_EQ(RFID_StopInventory(reader), sim::kInvalidHandle);
 }
 
-TEST_F(InventoryTest, PurgeEmptiesTheBuffer) {
+TEST_F(InventoryTest, PurgeAndDiscardOnStopEmptyTheBuffer) {
   inventory(nullptr, nullptr, oneRound());
   EXPECT_EQ(RFID_PurgeTags(reader, 0), sim::kSuccess);
   void* record = RFID_AllocateTag(reader);
   EXPECT_EQ(RFID_GetReadTag(reader, record), sim::kNoReadTags);
   RFID_DeallocateTag(reader, record);
+
+  Record settings = Record(16).put<uint32_t>(0, 4096).put<uint32_t>(8, 64).put<uint8_t>(15, 1);
+  ASSERT_EQ(RFID_SetTagStorageSettings(reader, settings.data()), sim::kSuccess);
+  inventory(nullptr, nullptr, oneRound());
+  EXPECT_EQ(sim::findReader(reader)->buffer.size(), 0u);
 }
 
 TEST_F(InventoryTest, PreFilterSelectsTagsOnItsAntennaOnly) {
