@@ -66,7 +66,7 @@ class EventsTest extends NativeTest {
     }
 
     @Test
-    void eachEventTypeFillsItsOwnFields() {
+    void eachEventTypeFillsItsOwnFieldsAsTheBytesStand() {
         int r = connect();
         EVENT_DATA gpi = eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u16(0, 0x8002).u8(2, 1));
         assertEquals(-32766, gpi.port);
@@ -92,21 +92,13 @@ class EventsTest extends NativeTest {
         assertEquals(4, alarm.antennaID);
         assertEquals("9223372036854775807", eventData(r, RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT,
                 new Bytes.Builder(16).s64(0, Long.MAX_VALUE)).alarmCode);
-    }
 
-    @Test
-    void stateByteAndEmptyTextReachJavaAsTheyStand() {
-        int r = connect();
+        assertEquals("", eventData(r, RFID_EVENT_TYPE.READER_EXCEPTION_EVENT, new Bytes.Builder(1088).u32(0, 1))
+                .exceptionInfo, "an empty text is an empty string, not null");
         // The virtual machine keeps bit 0 of a boolean set through JNI: the byte 2 passed as it stands reads
         // false, where a byte normalised to 1 would read true.
         assertFalse(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 2)).eventInfo);
         assertTrue(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 3)).eventInfo);
-
-        SimControl.setOutput("RFID_GetEventData", new Bytes.Builder(1088).u32(0, 1).build());
-        EVENT_DATA data = new EVENT_DATA();
-        data.exceptionInfo = "earlier";
-        assertEquals(0, ORLANatives.RFID_GetEventData(r, RFID_EVENT_TYPE.READER_EXCEPTION_EVENT, data));
-        assertEquals("", data.exceptionInfo, "an empty text is an empty string, not null");
     }
 
     @ParameterizedTest
