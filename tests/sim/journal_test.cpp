@@ -83,16 +83,6 @@ TEST_F(JournalTest, RecordsCallsInOrderWithTheirArguments) {
   EXPECT_FALSE(sim::findCall("C", 0, &missing));
 }
 
-TEST_F(JournalTest, RawArgumentsAreZeroExtendedFromTheirDeclaredWidth) {
-  EXPECT_EQ(0xFFFFFFFFull, sim::raw(int32_t{-1}));
-  EXPECT_EQ(0xFFFFull, sim::raw(int16_t{-1}));
-  EXPECT_EQ(0x8000ull, sim::raw(uint16_t{0x8000}));
-  EXPECT_EQ(1ull, sim::raw(uint8_t{1}));
-  EXPECT_EQ(0xFFFFFFFFFFFFFFFFull, sim::raw(int64_t{-1}));
-  int x = 0;
-  EXPECT_EQ(reinterpret_cast<uintptr_t>(&x), sim::raw(&x));
-}
-
 TEST_F(JournalTest, TellsNullFromEmptyAndCopiesAtCallEntry) {
   uint8_t bytes[3] = {1, 2, 3};
   wchar_t text[8] = L"abc";

@@ -65,14 +65,6 @@ class Gen2v2OperationTest extends TagAccessTest {
         assertArrayEquals(Arrays.copyOf(message, bytes), call.blob("params.pMessage"));
     }
 
-    @Test
-    void authenticateReplyReachesTheJavaTag() {
-        TAG_DATA tag = checkResultTag("RFID_Authenticate", bitStringResult(23), (handle, t, utc) ->
-                ORLANatives.RFID_Athenticate(handle, TAG_ID, 6, authenticate(8, MESSAGE), null, null, t, null, null,
-                        utc));
-        assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult);
-    }
-
     private static UNTRACEABLE_PARAMS untraceable() {
         UNTRACEABLE_PARAMS p = new UNTRACEABLE_PARAMS();
         p.assertU = true;
@@ -100,13 +92,6 @@ class Gen2v2OperationTest extends TagAccessTest {
     }
 
     @Test
-    void untraceableResultTagReachesJavaOnSuccessOnly() {
-        TAG_DATA tag = checkResultTag("RFID_Untraceable", bitStringResult(26), (handle, t, utc) ->
-                ORLANatives.RFID_Untraceable(handle, TAG_ID, 6, untraceable(), null, null, t, null, null, utc));
-        assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult);
-    }
-
-    @Test
     void cryptoSendsThreeChallengeWordsOrANullRecord() {
         CRYPTO_PARAMS p = new CRYPTO_PARAMS();
         p.keyID = (byte) 0x81;
@@ -130,9 +115,18 @@ class Gen2v2OperationTest extends TagAccessTest {
     }
 
     @Test
-    void cryptoResultTagReachesJavaOnSuccessOnly() {
-        TAG_DATA tag = checkResultTag("RFID_Crypto", bitStringResult(24), (handle, t, utc) ->
-                ORLANatives.RFID_Crypto(handle, TAG_ID, 6, null, null, null, t, null, null, utc));
-        assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult);
+    void eachReplyReachesTheJavaTagOnSuccessOnly() {
+        String[] functions = {"RFID_Authenticate", "RFID_Untraceable", "RFID_Crypto"};
+        int[] opCodes = {23, 26, 24};
+        ResultTagOperation[] operations = {
+            (h, t, utc) -> ORLANatives.RFID_Athenticate(h, TAG_ID, 6, authenticate(8, MESSAGE), null, null, t, null,
+                    null, utc),
+            (h, t, utc) -> ORLANatives.RFID_Untraceable(h, TAG_ID, 6, untraceable(), null, null, t, null, null, utc),
+            (h, t, utc) -> ORLANatives.RFID_Crypto(h, TAG_ID, 6, null, null, null, t, null, null, utc)};
+        for (int i = 0; i < functions.length; i++) {
+            SimControl.reset();
+            TAG_DATA tag = checkResultTag(functions[i], bitStringResult(opCodes[i]), operations[i]);
+            assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult, functions[i]);
+        }
     }
 }

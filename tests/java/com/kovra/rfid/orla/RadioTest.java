@@ -8,28 +8,11 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
-import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
-/** RF mode, duty cycle, radio power, idle time-out, power negotiation and USB operation mode. */
+/** USB operation mode, power negotiation and what the simulated radio keeps. */
 class RadioTest extends NativeTest {
-
-    @Test
-    void idleTimeoutIsClearedBeforeTheCallSoAFailureLeavesZero() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 0xFFFF_FFFFL).build());
-        int[] timeout = {1234};
-        assertEquals(0, ORLANatives.RFID_GetRadioIdleTimeout(reader, timeout));
-        assertEquals(-1, timeout[0]);
-        assertEquals(0L, Bytes.u32(Call.last("RFID_GetRadioIdleTimeout").blob("timeout"), 0), "preset to 0");
-
-        SimControl.setStatus("RFID_GetRadioIdleTimeout", FAILED);
-        SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 55).build());
-        timeout[0] = 1234;
-        assertEquals(FAILED, ORLANatives.RFID_GetRadioIdleTimeout(reader, timeout));
-        assertEquals(0, timeout[0]);
-    }
 
     @Test
     void usbSetReadsTheEnumObjectAndGetWritesTheRawShort() {

@@ -13,7 +13,8 @@ import org.junit.jupiter.api.Test;
 /**
  * The getters of one or two scalars: the slots handed to the reader start at 0, what the reader writes
  * reaches the Java array elements (or field) with its width and sign on success only, and a failed call
- * leaves what Java held, though the simulator writes its scripted bytes whatever the status.
+ * leaves what Java held (the idle time-out excepted), though the simulator writes its scripted bytes
+ * whatever the status.
  */
 class ScalarGetterTest extends NativeTest {
 
@@ -92,6 +93,11 @@ class ScalarGetterTest extends NativeTest {
             return v(ORLANatives.RFID_GetDutyCycle(r, duty), duty[0]);
         }, "dutyCycleIndex");
         assertNotEquals(0L, call.arg(2), "a scratch area is passed");
+        // The time-out is cleared before the call, so a failure leaves 0 in Java.
+        check("RFID_GetRadioIdleTimeout", out(4).u32(0, 0xFFFF_FFFFL), v(-1), v(0), r -> {
+            int[] timeout = {1234};
+            return v(ORLANatives.RFID_GetRadioIdleTimeout(r, timeout), timeout[0]);
+        }, "timeout");
         check("RFID_GetRadioPowerState", out(1).u8(0, 0), v(0), v(1), r -> {
             boolean[] on = {true};
             return v(ORLANatives.RFID_GetRadioPowerState(r, on), z(on[0]));
