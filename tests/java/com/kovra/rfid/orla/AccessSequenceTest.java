@@ -225,6 +225,8 @@ class AccessSequenceTest extends NativeTest {
         filter.tagPatternA.tagPattern = new byte[] {0x30, 0x08};
         filter.tagPatternA.tagPatternBitCount = 16;
         TRIGGER_INFO trigger = new TRIGGER_INFO();
+        trigger.startTrigger.type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
+        trigger.startTrigger.value.periodic.startTime.Year = 2031;
         trigger.stopTrigger.type = STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_DURATION;
         trigger.stopTrigger.value.duration = 1500;
         trigger.tagReportTrigger = 3;
@@ -234,7 +236,8 @@ class AccessSequenceTest extends NativeTest {
         assertArrayEquals(new byte[] {0x30, 0x08}, call.blob("accessFilter.tagPatternA.tagPattern"));
         assertNull(call.blob("accessFilter.tagPatternB"));
         assertEquals(8, fields(call.blob("antennaInfo.antennaList"), 14, 2)[0], "room for 8 antennas");
-        assertArrayEquals(new long[] {1, 1500, 3, 0}, fields(call.blob("triggerInfo"), 24, 4, 28, 4, 36, 4, 40, 8));
+        assertArrayEquals(new long[] {1, 1, 1500, 3, 0}, fields(call.blob("triggerInfo"), 0, 4, 24, 4, 28, 4, 36, 4, 40, 8));
+        assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0], "its own time block");
         assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "the report block starts zeroed");
         assertEquals(0L, call.arg(4), "the reserved argument is NULL");
     }

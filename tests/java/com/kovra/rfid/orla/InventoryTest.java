@@ -59,12 +59,15 @@ class InventoryTest extends NativeTest {
     @Test
     void easScanPassesAntennasAndTriggersOrNulls() {
         TRIGGER_INFO trigger = new TRIGGER_INFO();
+        trigger.startTrigger.type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
+        trigger.startTrigger.value.periodic.startTime.Year = 2031;
         trigger.stopTrigger.type = STOP_TRIGGER_TYPE.STOP_TRIGGER_TYPE_DURATION;
         trigger.stopTrigger.value.duration = 1500;
         ORLANatives.RFID_PerformNXPEASScan(NO_READER, antennas(8), trigger);
         Call call = Call.last("RFID_PerformNXPEASScan");
         assertEquals(8, fields(call.blob("antennaInfo.antennaList"), 14, 2)[0], "room for 8 antennas");
-        assertArrayEquals(new long[] {1, 1500}, fields(call.blob("triggerInfo"), 24, 4, 28, 4));
+        assertArrayEquals(new long[] {1, 1, 1500}, fields(call.blob("triggerInfo"), 0, 4, 24, 4, 28, 4));
+        assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0], "its own time block");
         assertArrayEquals(new byte[256], call.blob("triggerInfo.extraTriggers"));
         assertEquals(0L, call.arg(3), "the reserved argument is NULL");
 
