@@ -10,7 +10,7 @@ import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
 
-/** Base of the single tag access tests (Gen2, chip-specific and Gen2v2 operations): their shared fixtures. */
+/** Base of the single tag access tests (Gen2, NXP and Impinj, and Gen2v2 operations): their shared fixtures. */
 abstract class TagAccessTest extends NativeTest {
 
     /** No such reader, and negative: the handle must arrive sign-extended. */
