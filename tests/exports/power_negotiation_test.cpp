@@ -3,14 +3,11 @@
 // mangled names only, never under the plain JNI names. Their behaviour is
 // checked by calling them through those names with a stand-in JNIEnv that
 // knows just the field calls they make, against the simulated reader.
-#include <cxxabi.h>
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <jni.h>
 
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <deque>
 #include <map>
 #include <string>
@@ -31,15 +28,6 @@ const char* const kGetState =
 
 using Native = jint (*)(JNIEnv*, jclass, jint, jobject);
 
-std::string demangled(const std::string& symbol) {
-  int status = 0;
-  char* text = abi::__cxa_demangle(symbol.c_str(), nullptr, nullptr, &status);
-  if (status != 0 || text == nullptr) return symbol;
-  std::string result(text);
-  std::free(text);
-  return result;
-}
-
 struct Export {
   const char* plain;
   const char* mangled;
@@ -56,7 +44,6 @@ TEST(PowerNegotiationExports, OnlyTheMangledNamesAreExported) {
   void* library = dlopen(ORLA_JNI_LIBRARY, RTLD_NOW | RTLD_LOCAL);
   ASSERT_NE(nullptr, library) << dlerror();
   for (const Export& e : kExports) {
-    EXPECT_EQ(std::string(e.plain) + "(JNIEnv_*, _jclass*, int, _jobject*)", demangled(e.mangled));
     EXPECT_NE(nullptr, dlsym(library, e.mangled)) << e.mangled;
     EXPECT_EQ(nullptr, dlsym(library, e.plain)) << e.plain;
   }
@@ -114,18 +101,6 @@ class FakeEnv {
   JNIEnv env_{};
 };
 
-jvalue booleanValue(jboolean z) {
-  jvalue v{};
-  v.z = z;
-  return v;
-}
-
-jvalue shortValue(jshort s) {
-  jvalue v{};
-  v.s = s;
-  return v;
-}
-
 class PowerNegotiationTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -162,13 +137,13 @@ TEST_F(PowerNegotiationTest, SetStateReadsStatusAndPassesItAsOneOrZero) {
   Native set = native(kSetState);
   ASSERT_NE(nullptr, set);
   FakeObject state;
-  state.fields["status"] = booleanValue(0x80);
-  state.fields["powernegstate"] = booleanValue(0);
+  state.fields["status"].z = 0x80;
+  state.fields["powernegstate"].z = 0;
   EXPECT_EQ(sim::kSuccess, set(jni_.env(), nullptr, reader_, object(state)));
   EXPECT_EQ((std::vector<uint64_t>{static_cast<uint64_t>(reader_), 1}), argsOf("RFID_SetPowerNegotiationState"));
   EXPECT_EQ((std::vector<std::string>{"Get status Z"}), state.log);
 
-  state.fields["status"] = booleanValue(0);
+  state.fields["status"].z = 0;
   sim::setScriptedStatus("RFID_SetPowerNegotiationState", 7);
   EXPECT_EQ(7, set(jni_.env(), nullptr, -4, object(state)));
   EXPECT_EQ((std::vector<uint64_t>{0xFFFFFFFFFFFFFFFCull, 0}), argsOf("RFID_SetPowerNegotiationState"))
@@ -200,7 +175,7 @@ TEST_F(PowerNegotiationTest, GetStatusWritesTheLowSixteenBitsSignExtendedOnlyOnS
   EXPECT_EQ(static_cast<jshort>(0x8005), status.fields["enumMode"].s);
 
   FakeObject untouched;
-  untouched.fields["enumMode"] = shortValue(3);
+  untouched.fields["enumMode"].s = 3;
   sim::setScriptedStatus("RFID_GetPowerNegotiationStatus", 5);
   EXPECT_EQ(5, get(jni_.env(), nullptr, reader_, object(untouched)));
   EXPECT_TRUE(untouched.log.empty());

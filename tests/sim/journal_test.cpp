@@ -19,9 +19,6 @@ int32_t RFID_ConnectW(int64_t* handleOut, const wchar_t* hostName, uint32_t, uin
 int32_t RFID_GetAntennaMode(int64_t handle, uint32_t* mode);
 int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* first, uint16_t* second,
                               uint16_t* third);
-int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
-                   void* antenna, void* reserved);
-int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint32_t* index);
 }
 
 namespace {
@@ -84,16 +81,6 @@ TEST_F(JournalTest, RecordsCallsInOrderWithTheirArguments) {
   EXPECT_FALSE(sim::findCall("A", 2, &missing));
   EXPECT_FALSE(sim::findCall("A", -3, &missing));
   EXPECT_FALSE(sim::findCall("C", 0, &missing));
-}
-
-TEST_F(JournalTest, RawArgumentsAreZeroExtendedFromTheirDeclaredWidth) {
-  EXPECT_EQ(0xFFFFFFFFull, sim::raw(int32_t{-1}));
-  EXPECT_EQ(0xFFFFull, sim::raw(int16_t{-1}));
-  EXPECT_EQ(0x8000ull, sim::raw(uint16_t{0x8000}));
-  EXPECT_EQ(1ull, sim::raw(uint8_t{1}));
-  EXPECT_EQ(0xFFFFFFFFFFFFFFFFull, sim::raw(int64_t{-1}));
-  int x = 0;
-  EXPECT_EQ(reinterpret_cast<uintptr_t>(&x), sim::raw(&x));
 }
 
 TEST_F(JournalTest, TellsNullFromEmptyAndCopiesAtCallEntry) {
@@ -263,38 +250,6 @@ TEST_F(JournalTest, OutputsSpreadTheScriptAcrossOutParametersEvenOnFailure) {
   EXPECT_EQ(0x0201, first);
   EXPECT_EQ(0x0403, second);
   EXPECT_EQ(0x0005, third);  // what the script does not cover is zeroed
-}
-
-TEST_F(JournalTest, AccessOperationsCaptureTheBuffersTheirRecordsPointTo) {
-  int64_t handle = connect();
-  std::vector<uint8_t> tagID{0x30, 0x00, 0x12};
-  auto* data = new uint8_t[4]{0xDE, 0xAD, 0xBE, 0xEF};
-  uint8_t params[56] = {};
-  std::memcpy(params + 8, &data, sizeof data);
-  params[16] = 4;  // writeDataLength
-  EXPECT_EQ(sim::kSuccess, RFID_Write(handle, tagID.data(), 3, params, nullptr, nullptr, nullptr));
-  delete[] data;
-
-  sim::Call call = callOf("RFID_Write", 0);
-  EXPECT_EQ(tagID, call.blobs["tagID"].bytes);
-  EXPECT_EQ(56u, call.blobs["params"].bytes.size());
-  EXPECT_EQ((std::vector<uint8_t>{0xDE, 0xAD, 0xBE, 0xEF}), call.blobs["params.writeData"].bytes);
-  EXPECT_FALSE(call.blobs["accessFilter"].present);
-  EXPECT_FALSE(call.blobs["antennaInfo"].present);
-}
-
-TEST_F(JournalTest, AccessSequenceOperationsGetIncreasingIndicesOnlyOnSuccess) {
-  int64_t handle = connect();
-  uint8_t operation[48] = {};  // opCode 0: read, no parameters attached
-  uint32_t index = 99;
-  EXPECT_EQ(sim::kSuccess, RFID_AddOperationToAccessSequence(handle, operation, &index));
-  EXPECT_EQ(0u, index);
-  sim::queueScriptedStatus("RFID_AddOperationToAccessSequence", 3);
-  EXPECT_EQ(3, RFID_AddOperationToAccessSequence(handle, operation, &index));
-  EXPECT_EQ(sim::kSuccess, RFID_AddOperationToAccessSequence(handle, operation, &index));
-  EXPECT_EQ(1u, index);
-  EXPECT_EQ(99u, sim::fieldAt<uint32_t>(callOf("RFID_AddOperationToAccessSequence", 0).blobs["index"], 0));
-  EXPECT_FALSE(callOf("RFID_AddOperationToAccessSequence", 0).blobs["operation.params"].present);
 }
 
 }  // namespace

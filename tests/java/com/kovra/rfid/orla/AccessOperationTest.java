@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -11,7 +9,6 @@ import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
-import java.util.Arrays;
 import java.util.function.IntBinaryOperator;
 import org.junit.jupiter.api.Test;
 
@@ -19,77 +16,9 @@ import org.junit.jupiter.api.Test;
  * Single Gen2 operations on one tag: the tag ID bytes, the parameter
  * records, the access filter and antenna records as the reader received
  * them (read at the reader's offsets from the simulator's copies), the
- * argument order and widths, and the result tag. Also holds the helpers
- * that the chip and Gen2v2 operation tests share.
+ * argument order and widths, and the result tag.
  */
-class AccessOperationTest extends NativeTest {
-
-    /** No such reader, and negative: the handle must arrive sign-extended. */
-    static final int NO_READER = -2;
-    static final long NO_READER_RAW = 0xFFFF_FFFF_FFFF_FFFEL;
-    static final String TAG_ID = "3000abCDef12";
-    static final byte[] TAG_BYTES = {0x30, 0x00, (byte) 0xAB, (byte) 0xCD, (byte) 0xEF, 0x12};
-    /** A password above 32 bits: only 0x87654321 may reach the reader. */
-    static final long PASSWORD = 0x1_8765_4321L;
-
-    static ANTENNA_INFO twoAntennas() {
-        return new ANTENNA_INFO(new short[] {3, (short) 0x8001},
-                new OPERATION_QUALIFIER[] {OPERATION_QUALIFIER.LOCATE_TAG, OPERATION_QUALIFIER.C1G2_OPERATION});
-    }
-
-    static void assertTwoAntennas(Call call) {
-        assertEquals(2, Bytes.u32(call.blob("antennaInfo"), 8));
-        assertArrayEquals(new long[] {3, 0x8001}, fields(call.blob("antennaInfo.antennaList"), 0, 2, 2, 2));
-        assertArrayEquals(new long[] {2, 0}, fields(call.blob("antennaInfo.antennaOpList"), 0, 4, 4, 4));
-    }
-
-    static void assertZero(byte[] record, int from, int to) {
-        assertArrayEquals(new byte[to - from], Arrays.copyOfRange(record, from, to), "bytes " + from + " to " + to);
-    }
-
-    /**
-     * Runs an operation that returns a tag three times on a connected reader:
-     * with a scripted result tag on success, with the same result on failure
-     * (the simulator still writes it), and without a tag object. Returns the
-     * Java tag of the successful run.
-     */
-    static TAG_DATA checkResultTag(String fn, byte[] result, ResultTagOperation op) {
-        int handle = connect();
-        SimControl.setOutput(fn, result);
-        TAG_DATA tag = TagDataTest.markedTag();
-        assertEquals(0, op.run(handle, tag, true));
-        Call call = Call.last(fn);
-        assertNotEquals(0L, call.arg(6), "a tag record was passed");
-        assertArrayEquals(new long[] {handle, call.arg(6)}, SimControl.args("RFID_DeallocateTag", -1),
-                "the same record is given back");
-        assertEquals(0, SimReader.liveTagRecords(handle));
-
-        SimControl.setStatus(fn, 9);
-        TAG_DATA untouched = TagDataTest.markedTag();
-        assertEquals(9, op.run(handle, untouched, true));
-        assertNull(untouched.tagID, "nothing is written on failure");
-        assertEquals(77, untouched.AccessOperationResult.value.qtData.qtControlData);
-        assertEquals(2, SimControl.count("RFID_DeallocateTag"), "given back on failure too");
-        assertEquals(0, SimReader.liveTagRecords(handle));
-
-        SimControl.setStatus(fn, 0);
-        assertEquals(0, op.run(handle, null, true));
-        assertEquals(0L, Call.last(fn).arg(6), "no tag object, no tag record");
-        assertArrayEquals(new long[] {2, 2}, new long[] {SimControl.count("RFID_AllocateTag"),
-            SimControl.count("RFID_DeallocateTag")});
-        return tag;
-    }
-
-    /** A tag-returning operation with a tag ID, called as op(handle, tag, utcTime). */
-    interface ResultTagOperation {
-        int run(int handle, TAG_DATA tag, boolean utcTime);
-    }
-
-    /** A scripted result tag: EPC 3000 1234, opCode and a result record behind pOpResult. */
-    static byte[] resultTag(int opCode, byte[] opResult) {
-        return TagDataTest.fullRecord(new byte[] {0x30, 0x00, 0x12, 0x34}).u32(80, opCode)
-                .ptr(144, SimControl.alloc(opResult)).build();
-    }
+class AccessOperationTest extends TagAccessTest {
 
     private static READ_ACCESS_PARAMS readParams() {
         READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
@@ -130,7 +59,7 @@ class AccessOperationTest extends NativeTest {
         assertEquals(0x7FFE, tag.seenTime.utcTime.firstSeenTimeStamp.Year, "UTC form asked for");
         assertEquals(77, tag.seenTime.upTime.firstSeenTimeStamp);
 
-        TAG_DATA upTime = TagDataTest.markedTag();
+        TAG_DATA upTime = markedTag();
         int handle = connect();
         assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, upTime, null, null, false));
         assertEquals(Bytes.s64(result, 40), upTime.seenTime.upTime.firstSeenTimeStamp, "up-time form asked for");
@@ -142,7 +71,7 @@ class AccessOperationTest extends NativeTest {
         int handle = connect();
         SimControl.setPointer("RFID_AllocateTag", 0);
         SimControl.setOutput("RFID_Read", resultTag(0, new byte[16]));
-        TAG_DATA tag = TagDataTest.markedTag();
+        TAG_DATA tag = markedTag();
         assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, tag, null, null, true));
         assertEquals(0L, Call.last("RFID_Read").arg(6));
         assertNull(tag.tagID);
@@ -151,33 +80,30 @@ class AccessOperationTest extends NativeTest {
 
     @Test
     void readOfASimulatedTagReturnsTheBytesOfItsBank() {
-        assertNull(SimReader.loadTags("EPC=E2000017220100050000AAAA USER=0011223344556677 ANT=2 RSSI=-61"));
+        String epc = "E2000017220100050000AAAA";
+        assertNull(SimReader.loadTags("EPC=" + epc + " USER=0011223344556677 ANT=2 RSSI=-61"));
         int handle = connect();
         READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
         p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
         p.byteOffset = 2;
-        p.byteCount = 4;
-        TAG_DATA tag = TagDataTest.markedTag();
-        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
-                true));
-        assertEquals("E2000017220100050000AAAA", tag.tagID);
-        assertEquals("22334455", tag.memoryBankData);
+        TAG_DATA tag = markedTag();
+        int[] counts = {4, 0, 7};
+        int[] statuses = {0, 0, 2};
+        String[] banks = {"22334455", "223344556677", "223344556677"};
+        for (int i = 0; i < 3; i++) {
+            p.byteCount = (short) counts[i];
+            assertEquals(statuses[i], ORLANatives.RFID_Read(handle, epc, 12, p, null, null, tag, null, null, true));
+            assertEquals(banks[i], tag.memoryBankData, "a count of 0 reads to the end, 7 is beyond the bank");
+        }
+        assertEquals(epc, tag.tagID);
         assertArrayEquals(new int[] {0, 3, 2, -61}, new int[] {tag.enumOPCode, tag.enumMemoryBank, tag.antennaID,
             tag.peakRSSI});
-
-        p.byteCount = 0;
-        assertEquals(0, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
-                true));
-        assertEquals("223344556677", tag.memoryBankData, "byte count 0 reads to the end of the bank");
-
-        p.byteCount = 7;
-        assertEquals(2, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAA", 12, p, null, null, tag, null, null,
-                true), "beyond the bank");
         assertEquals(6, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAB", 12, p, null, null, tag, null, null,
                 true), "no such tag in the field");
         assertEquals(0, SimReader.liveTagRecords(handle));
     }
 
+    /** The access filter's own fields; its patterns and RSSI range share the post filter's conversion. */
     @Test
     void accessFilterRecordsSitAtTheirOffsets() {
         ACCESS_FILTER filter = new ACCESS_FILTER();
@@ -185,11 +111,8 @@ class AccessOperationTest extends NativeTest {
         filter.structInfo.memoryUsed = 0x0102_0304;
         filter.tagPatternA = new TAG_PATTERN();
         filter.tagPatternA.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
-        filter.tagPatternA.bitOffset = (short) 0x8010;
-        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2, (byte) 0x80, 0x11, 0x22};
+        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2, (byte) 0x80, 0x11};
         filter.tagPatternA.tagPatternBitCount = 12;
-        filter.tagPatternA.tagMask = new byte[] {(byte) 0xFF, (byte) 0xF0, 0x0F};
-        filter.tagPatternA.tagMaskBitCount = 17;
         filter.tagPatternB = new TAG_PATTERN();
         filter.tagPatternB.tagPattern = new byte[] {0x30};
         filter.tagPatternB.tagPatternBitCount = 8;
@@ -201,14 +124,9 @@ class AccessOperationTest extends NativeTest {
 
         ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, filter, null, null, null, null, true);
         Call call = Call.last("RFID_Read");
-        byte[] record = call.blob("accessFilter");
-        assertArrayEquals(new long[] {0xFFFF_FFFEL, 0x0102_0304, 3}, fields(record, 0, 4, 4, 4, 24, 4));
-        assertArrayEquals(new long[] {2, 0x8010, 12, 17}, fields(call.blob("accessFilter.tagPatternA"),
-                0, 4, 4, 2, 16, 2, 32, 2), "bank, bit offset, pattern bits, mask bits");
+        assertArrayEquals(new long[] {0xFFFF_FFFEL, 0x0102_0304, 3}, fields(call.blob("accessFilter"), 0, 4, 4, 4, 24, 4));
+        assertArrayEquals(new long[] {2, 12}, fields(call.blob("accessFilter.tagPatternA"), 0, 4, 16, 2));
         assertArrayEquals(new byte[] {(byte) 0xE2, (byte) 0x80}, call.blob("accessFilter.tagPatternA.tagPattern"));
-        assertArrayEquals(new byte[] {(byte) 0xFF, (byte) 0xF0, 0x0F}, call.blob("accessFilter.tagPatternA.tagMask"));
-        assertArrayEquals(new long[] {1, 0, 8, 0, 0}, fields(call.blob("accessFilter.tagPatternB"),
-                0, 4, 4, 2, 16, 2, 24, 8, 32, 2), "no mask bits, no mask");
         assertArrayEquals(new byte[] {0x30}, call.blob("accessFilter.tagPatternB.tagPattern"));
         assertArrayEquals(new long[] {0xBA, 0x7F, 3}, fields(call.blob("accessFilter.rssiRangeFilter"), 0, 1, 1, 1, 4, 4),
                 "low byte of each limit, match range");

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -23,12 +21,8 @@ class AntennaConfigTest extends NativeTest {
     private static final int RF_BLOCK = 320;
 
     @Test
-    void antennaIndicesGoOutAs16BitsAndComeBackWhateverTheStatus() {
+    void antennaIndicesComeBackWhateverTheStatus() {
         int reader = connect();
-        assertEquals(0, ORLANatives.RFID_SetAntennaConfig(reader, ANTENNA, (short) -1, (short) 0x8001, (short) 2));
-        assertArrayEquals(new long[] {reader, ANTENNA_ARG, 0xFFFF, 0x8001, 2},
-                Call.last("RFID_SetAntennaConfig").args());
-
         short[] first = {11};
         short[] second = {12};
         short[] third = {13};
@@ -65,12 +59,6 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(3, stop.enumstopTriggerType);
         assertSame(ANTENNA_STOP_TRIGGER_TYPE.ANTENNA_STOP_TRIGGER_TYPE_NONE, stop.stopTriggerType,
                 "the enum object is only read, by the setter");
-
-        SimControl.setStatus("RFID_GetAntennaRfConfig", 4);
-        ANTENNA_RF_CONFIG kept = new ANTENNA_RF_CONFIG();
-        assertEquals(4, ORLANatives.RFID_GetAntennaRfConfig(reader, ANTENNA, kept));
-        assertArrayEquals(new long[] {0, 0, 0, 0, 0}, new long[] {kept.transmitPowerIndex, kept.rfModeTableIndex,
-            kept.tari, kept.antennaStopTrigger.stopTriggerValue, kept.antennaStopTrigger.enumstopTriggerType});
     }
 
     @Test
@@ -154,67 +142,6 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(33.25f, c.cableLengthInFt);
         assertEquals(-1.5f, c.cableLossPer100Ft);
         assertEquals(-3, c.antennaID, "the antenna is not written back");
-
-        SimControl.setStatus("RFID_GetCableLossCompensation", 6);
-        CABLE_LOSS_COMPENSATION kept = cableLoss(1, 1f, 2f);
-        assertEquals(6, ORLANatives.RFID_GetCableLossCompensation(reader, kept));
-        assertEquals(1f, kept.cableLengthInFt);
-        assertEquals(2f, kept.cableLossPer100Ft);
-    }
-
-    /** The scalar getters: presets, zero-extended antenna, element 0 on success only. */
-    @Test
-    void scalarGettersWriteElementZeroOnlyOnSuccess() {
-        int reader = connect();
-        boolean[] flag = {false};
-        int[] value = {-9};
-        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 1).s32(1, -5).build());
-        assertEquals(0, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
-        assertEquals(ANTENNA_ARG, Call.last("RFID_GetPhysicalAntennaProperties").arg(1));
-        assertTrue(flag[0]);
-        assertEquals(-5, value[0]);
-
-        int[] mode = {-9};
-        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 0x8000_0001L).build());
-        assertEquals(0, ORLANatives.RFID_GetAntennaMode(reader, mode));
-        assertArrayEquals(new byte[4], SimControl.blob("RFID_GetAntennaMode", -1, "mode"), "preset to 0");
-        assertEquals(0x8000_0001, mode[0]);
-
-        boolean[] enabled = {false};
-        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {1});
-        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
-        assertEquals(ANTENNA_ARG, Call.last("RFID_GetReadPointStatus").arg(1));
-        assertArrayEquals(new byte[1], SimControl.blob("RFID_GetReadPointStatus", -1, "status"), "preset to 0");
-        assertTrue(enabled[0]);
-
-        for (String fn : new String[] {"RFID_GetPhysicalAntennaProperties", "RFID_GetAntennaMode",
-            "RFID_GetReadPointStatus"}) {
-            SimControl.setStatus(fn, 8);
-        }
-        SimControl.setOutput("RFID_GetPhysicalAntennaProperties", new Bytes.Builder(5).u8(0, 0).s32(1, 77).build());
-        SimControl.setOutput("RFID_GetAntennaMode", new Bytes.Builder(4).u32(0, 77).build());
-        SimControl.setOutput("RFID_GetReadPointStatus", new byte[] {0});
-        assertEquals(8, ORLANatives.RFID_GetPhysicalAntennaProperties(reader, ANTENNA, flag, value));
-        assertEquals(8, ORLANatives.RFID_GetAntennaMode(reader, mode));
-        assertEquals(8, ORLANatives.RFID_GetReadPointStatus(reader, ANTENNA, enabled));
-        assertTrue(flag[0]);
-        assertEquals(-5, value[0]);
-        assertEquals(0x8000_0001, mode[0]);
-        assertTrue(enabled[0]);
-    }
-
-    @Test
-    void settersPassTheModeOrdinalAndANormalisedEnableFlag() {
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_SetAntennaMode(reader, ANTENNA_MODE.ANTENNA_MODE_BISTATIC));
-        assertEquals(1L, Call.last("RFID_SetAntennaMode").arg(1));
-        assertEquals(0, ORLANatives.RFID_SetAntennaMode(reader, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
-        assertEquals(0L, Call.last("RFID_SetAntennaMode").arg(1));
-
-        assertEquals(0, ORLANatives.RFID_EnableReadPoint(reader, ANTENNA, true));
-        assertArrayEquals(new long[] {reader, ANTENNA_ARG, 1}, Call.last("RFID_EnableReadPoint").args());
-        assertEquals(0, ORLANatives.RFID_EnableReadPoint(reader, (short) 1, false));
-        assertArrayEquals(new long[] {reader, 1, 0}, Call.last("RFID_EnableReadPoint").args());
     }
 
     /** Without scripts the simulated reader answers with what was set on it. */
@@ -239,15 +166,5 @@ class AntennaConfigTest extends NativeTest {
         ORLANatives.RFID_EnableReadPoint(reader, (short) 2, false);
         assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
         assertFalse(enabled[0]);
-    }
-
-    @Test
-    void handleIsSignExtendedAndTheStatusReturnedAsIs() {
-        assertEquals(1, ORLANatives.RFID_SetAntennaMode(-2, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC));
-        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, Call.last("RFID_SetAntennaMode").arg(0));
-        SimControl.setStatus("RFID_SetAntennaConfig", -40);
-        assertEquals(-40, ORLANatives.RFID_SetAntennaConfig(Integer.MIN_VALUE, (short) 0, (short) 0, (short) 0,
-                (short) 0));
-        assertEquals(0xFFFF_FFFF_8000_0000L, Call.last("RFID_SetAntennaConfig").arg(0));
     }
 }

@@ -1,16 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.AccessOperationTest.NO_READER;
-import static com.kovra.rfid.orla.AccessOperationTest.NO_READER_RAW;
-import static com.kovra.rfid.orla.AccessOperationTest.PASSWORD;
-import static com.kovra.rfid.orla.AccessOperationTest.TAG_BYTES;
-import static com.kovra.rfid.orla.AccessOperationTest.TAG_ID;
-import static com.kovra.rfid.orla.AccessOperationTest.assertTwoAntennas;
-import static com.kovra.rfid.orla.AccessOperationTest.assertZero;
-import static com.kovra.rfid.orla.AccessOperationTest.checkResultTag;
-import static com.kovra.rfid.orla.AccessOperationTest.resultTag;
-import static com.kovra.rfid.orla.AccessOperationTest.twoAntennas;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -25,10 +14,10 @@ import org.junit.jupiter.api.Test;
  * the length passed as given) and the result tags of change config and QT
  * read.
  */
-class ChipOperationTest extends NativeTest {
+class ChipOperationTest extends TagAccessTest {
 
-    private static Bytes.Builder qtResult(int word) {
-        return new Bytes.Builder(16).u16(0, word);
+    private static byte[] qtResult(int word) {
+        return new Bytes.Builder(16).u16(0, word).build();
     }
 
     @Test
@@ -39,22 +28,13 @@ class ChipOperationTest extends NativeTest {
         Call call = Call.last("RFID_NXPReadProtect");
         assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
             call.arg(6)}, "handle, length, no filter, reserved");
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
-        byte[] record = call.blob("params");
-        assertEquals(0x8765_4321L, Bytes.u32(record, 0));
-        assertZero(record, 4, 40);
-        assertTwoAntennas(call);
+        assertEquals(0x8765_4321L, Bytes.u32(assertSent(call, 4), 0));
 
         NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
         eas.accessPassword = PASSWORD;
         eas.EASState = true;
         ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, twoAntennas());
-        call = Call.last("RFID_NXPSetEAS");
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
-        record = call.blob("params");
-        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(record, 0, 4, 4, 1));
-        assertZero(record, 5, 40);
-        assertTwoAntennas(call);
+        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(assertSent(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
     }
 
     @Test
@@ -63,7 +43,6 @@ class ChipOperationTest extends NativeTest {
         Call call = Call.last("RFID_NXPSetEAS");
         assertArrayEquals(new long[] {0, 0, 0}, new long[] {call.arg(1), call.arg(2), call.arg(3)},
                 "no tag ID, length 0, no record");
-
         ORLANatives.RFID_NXPReadProtect(NO_READER, null, 0, null, null, null);
         assertArrayEquals(new long[] {0, 0}, new long[] {Call.last("RFID_NXPReadProtect").arg(1),
             Call.last("RFID_NXPReadProtect").arg(2)});
@@ -107,15 +86,11 @@ class ChipOperationTest extends NativeTest {
         p.accessPassword = PASSWORD;
         p.ChangeConfigWord = (short) 0x8001;
         ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
-        Call call = Call.last("RFID_NXPChangeConfig");
-        byte[] record = call.blob("params");
-        assertArrayEquals(new long[] {0x8765_4321L, 0x8001}, fields(record, 0, 4, 4, 2));
-        assertZero(record, 6, 40);
-        assertTwoAntennas(call);
+        assertArrayEquals(new long[] {0x8765_4321L, 0x8001},
+                fields(assertSent(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
 
-        TAG_DATA tag = checkResultTag("RFID_NXPChangeConfig", resultTag(22, qtResult(0xFFFE).build()),
-                (handle, t, utc) -> ORLANatives.RFID_NXPChangeConfig(handle, TAG_ID, 6, p, null, null, t, null, null,
-                        utc));
+        TAG_DATA tag = checkResultTag("RFID_NXPChangeConfig", resultTag(22, qtResult(0xFFFE)), (handle, t, utc) ->
+                ORLANatives.RFID_NXPChangeConfig(handle, TAG_ID, 6, p, null, null, t, null, null, utc));
         assertEquals(-2, tag.AccessOperationResult.value.nxpChangeConfigWordResult.ChangeConfigWord);
     }
 
@@ -126,13 +101,8 @@ class ChipOperationTest extends NativeTest {
         p.qtPersist = true;
         p.qtData.qtControlData = (short) 0x8000;
         ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
-        Call call = Call.last("RFID_ImpinjQTWrite");
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
-        byte[] record = call.blob("params");
-        assertArrayEquals(new long[] {0x8765_4321L, 1, 0x00, 0x80}, fields(record, 0, 4, 4, 1, 8, 1, 9, 1));
-        assertZero(record, 5, 8);
-        assertZero(record, 10, 80);
-        assertTwoAntennas(call);
+        byte[] record = assertSent(Call.last("RFID_ImpinjQTWrite"), 10);
+        assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000}, fields(record, 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
     }
 
     @Test
@@ -140,15 +110,10 @@ class ChipOperationTest extends NativeTest {
         IMPINJ_QT_READ_PARAMS p = new IMPINJ_QT_READ_PARAMS();
         p.accessPassword = PASSWORD;
         ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, false);
-        Call call = Call.last("RFID_ImpinjQTRead");
-        byte[] record = call.blob("params");
-        assertEquals(0x8765_4321L, Bytes.u32(record, 0));
-        assertZero(record, 4, 40);
-        assertTwoAntennas(call);
+        assertEquals(0x8765_4321L, Bytes.u32(assertSent(Call.last("RFID_ImpinjQTRead"), 4), 0));
 
-        TAG_DATA tag = checkResultTag("RFID_ImpinjQTRead", resultTag(21, qtResult(0x8001).build()),
-                (handle, t, utc) -> ORLANatives.RFID_ImpinjQTRead(handle, TAG_ID, 6, p, null, null, t, null, null,
-                        utc));
+        TAG_DATA tag = checkResultTag("RFID_ImpinjQTRead", resultTag(21, qtResult(0x8001)), (handle, t, utc) ->
+                ORLANatives.RFID_ImpinjQTRead(handle, TAG_ID, 6, p, null, null, t, null, null, utc));
         assertEquals((short) 0x8001, tag.AccessOperationResult.value.qtData.qtControlData);
     }
 }

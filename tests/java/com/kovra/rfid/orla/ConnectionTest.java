@@ -5,19 +5,11 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
 
-import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
+/** Connect: its host name, version and secure records as the reader got them, and the handle written back. */
 class ConnectionTest extends NativeTest {
-
-    private static final int HOST_CHARS = 260;
-    private static final int INVALID_HANDLE = 1;
-
-    private static RFID_VERSION lastVersion() {
-        RFID_VERSION[] all = RFID_VERSION.values();
-        return all[all.length - 1];
-    }
 
     private static CONNECTION_INFO info(SEC_CONNECTION_INFO secure) {
         CONNECTION_INFO info = new CONNECTION_INFO();
@@ -47,96 +39,50 @@ class ConnectionTest extends NativeTest {
         return SimControl.blob("RFID_ConnectW", -1, name);
     }
 
-    private static void assertZero(byte[] b, int from, int to) {
-        for (int i = from; i < to; i++) {
-            assertEquals(0, b[i], "byte " + i);
-        }
-    }
-
-    private static String name(int length) {
-        StringBuilder sb = new StringBuilder(length);
-        for (int i = 0; i < length; i++) {
-            sb.append((char) ('A' + i % 26));
-        }
-        return sb.toString();
-    }
-
-    private static void assertHostChars(byte[] host, String expected) {
-        for (int i = 0; i < expected.length(); i++) {
-            assertEquals(expected.charAt(i), Bytes.u32(host, 4 * i), "character " + i);
-        }
-    }
-
     @Test
     void connectPassesParametersAndVersionAndWritesTheHandleBack() {
         long[] handle = {-99L};
         assertEquals(0, ORLANatives.RFID_Connect(handle, "reader-7", 0x7FFFFFFF, -1, info(null)));
-
         long[] args = SimControl.args("RFID_ConnectW", -1);
-        assertEquals(0x7FFFFFFFL, args[2]);
-        assertEquals(0xFFFFFFFFL, args[3], "second parameter passed as unsigned 32 bits");
-
+        assertArrayEquals(new long[] {0x7FFFFFFFL, 0xFFFFFFFFL}, new long[] {args[2], args[3]}, "unsigned 32 bits");
         byte[] conn = captured("connInfo");
         assertEquals(48, conn.length);
         assertNotEquals(0, lastVersion().ordinal());
-        assertEquals(lastVersion().ordinal(), Bytes.u32(conn, 0));
+        assertEquals(lastVersion().ordinal(), fields(conn, 0, 4)[0]);
         assertZero(conn, 4, 48);
         assertNull(captured("connInfo.secConnInfo"));
 
+        int reader = (int) handle[0];
         assertNotEquals(-99L, handle[0]);
-        assertEquals(0, ORLANatives.RFID_Reconnect((int) handle[0]), "the handle written back is the issued one");
-        assertEquals(handle[0], SimControl.args("RFID_Reconnect", -1)[0]);
+        assertEquals(0, ORLANatives.RFID_Reconnect(reader), "the handle written back is the issued one");
+        assertEquals(0, ORLANatives.RFID_DisConnect(reader));
+        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Reconnect(reader), "disconnect closed the session");
     }
 
     @Test
     void hostNameFillsA260CharacterBufferAndIsCutWithoutTerminator() {
-        long[] handle = new long[1];
-
-        String fits = name(HOST_CHARS - 1);
-        ORLANatives.RFID_Connect(handle, fits, 0, 0, info(null));
-        byte[] host = captured("hostName");
-        assertEquals(4 * HOST_CHARS, host.length);
-        assertHostChars(host, fits);
-        assertEquals(0L, Bytes.u32(host, 4 * (HOST_CHARS - 1)), "terminator after 259 characters");
-
-        String exact = name(HOST_CHARS);
-        ORLANatives.RFID_Connect(handle, exact, 0, 0, info(null));
-        assertHostChars(captured("hostName"), exact);
-
-        ORLANatives.RFID_Connect(handle, name(HOST_CHARS + 40), 0, 0, info(null));
-        host = captured("hostName");
-        assertEquals(4 * HOST_CHARS, host.length);
-        assertHostChars(host, name(HOST_CHARS));
-
-        ORLANatives.RFID_Connect(handle, null, 0, 0, info(null));
-        assertZero(captured("hostName"), 0, 4 * HOST_CHARS);
-
-        ORLANatives.RFID_Connect(handle, "", 0, 0, info(null));
-        assertZero(captured("hostName"), 0, 4 * HOST_CHARS);
+        for (String host : new String[] {letters(TEXT_CHARS - 1), letters(TEXT_CHARS), letters(TEXT_CHARS + 40), null,
+            ""}) {
+            ORLANatives.RFID_Connect(new long[1], host, 0, 0, info(null));
+            byte[] sent = captured("hostName");
+            assertEquals(TEXT_BYTES, sent.length);
+            String expected = host == null ? "" : host.substring(0, Math.min(host.length(), TEXT_CHARS));
+            assertEquals(expected, text(sent, 0), "the text up to its terminator, or all 260 characters");
+            if (expected.isEmpty()) {
+                assertZero(sent, 0, TEXT_BYTES);
+            }
+        }
     }
 
     @Test
     void secureRecordCarriesFlagsSizesCopiesAndConnStatus() {
         ORLANatives.RFID_Connect(new long[1], "secure", 0, 0, info(secure(true, false)));
-
-        byte[] conn = captured("connInfo");
         byte[] sec = captured("connInfo.secConnInfo");
-        assertNotEquals(0L, Bytes.ptr(conn, 8));
         assertEquals(104, sec.length);
-        assertEquals(1, Bytes.u8(sec, 0), "secureMode");
-        assertEquals(0, Bytes.u8(sec, 1), "validatePeerCert");
-        assertZero(sec, 2, 4);
-        assertEquals(3L, Bytes.u32(sec, 4));
-        assertNotEquals(0L, Bytes.ptr(sec, 8));
-        assertEquals(0L, Bytes.u32(sec, 16));
-        assertEquals(0L, Bytes.ptr(sec, 24), "no key buffer when its size is 0");
-        assertEquals(2L, Bytes.u32(sec, 32));
-        assertNotEquals(0L, Bytes.ptr(sec, 40));
-        assertEquals(4L, Bytes.u32(sec, 48));
-        assertNotEquals(0L, Bytes.ptr(sec, 56));
-        assertEquals(0x8877665544332211L, Bytes.s64(sec, 64));
+        assertArrayEquals(new long[] {1, 0, 0, 3, 0, 0, 2, 4, 0x8877665544332211L},
+                fields(sec, 0, 1, 1, 1, 2, 2, 4, 4, 16, 4, 24, 8, 32, 4, 48, 4, 64, 8),
+                "flags, cert size, key size and no key buffer, phrase and root sizes, connStatus");
         assertZero(sec, 72, 104);
-
         assertArrayEquals(new byte[] {1, 2, 3}, captured("connInfo.secConnInfo.clientCertBuff"));
         assertNull(captured("connInfo.secConnInfo.clientKeyBuff"));
         assertArrayEquals(new byte[] {(byte) 0xF0, 0x7F}, captured("connInfo.secConnInfo.phraseBuff"));
@@ -144,63 +90,24 @@ class ConnectionTest extends NativeTest {
                 captured("connInfo.secConnInfo.rootCertBuff"));
 
         SEC_CONNECTION_INFO raw = secure(true, true);
-        TagDataTest.rawBoolean(raw, "secureMode", 2);
-        TagDataTest.rawBoolean(raw, "validatePeerCert", 0x40);
+        rawBoolean(raw, "secureMode", 2);
+        rawBoolean(raw, "validatePeerCert", 0x40);
         ORLANatives.RFID_Connect(new long[1], "secure", 0, 0, info(raw));
-        sec = captured("connInfo.secConnInfo");
-        assertEquals(1, Bytes.u8(sec, 0), "any non-zero flag counts as set and is stored as 1");
-        assertEquals(1, Bytes.u8(sec, 1));
-    }
-
-    @Test
-    void noSecureRecordWithoutSecConnInfoOrWithSecureModeOff() {
-        ORLANatives.RFID_Connect(new long[1], "plain", 0, 0, info(null));
-        assertEquals(0L, Bytes.ptr(captured("connInfo"), 8));
-        assertNull(captured("connInfo.secConnInfo"));
+        assertArrayEquals(new long[] {1, 1}, fields(captured("connInfo.secConnInfo"), 0, 1, 1, 1),
+                "any non-zero flag counts as set and is stored as 1");
 
         ORLANatives.RFID_Connect(new long[1], "plain", 0, 0, info(secure(false, true)));
-        assertEquals(0L, Bytes.ptr(captured("connInfo"), 8), "sizes are set, secureMode is off");
-        assertNull(captured("connInfo.secConnInfo"));
+        assertEquals(0L, fields(captured("connInfo"), 8, 8)[0], "sizes are set, secureMode is off: no record");
         assertNull(captured("connInfo.secConnInfo.clientCertBuff"));
     }
 
     @Test
     void failingConnectReturnsTheStatusAndLeavesTheHandleArrayAlone() {
-        SimControl.setStatus("RFID_ConnectW", 7);
         long[] handle = {-99L};
-        assertEquals(7, ORLANatives.RFID_Connect(handle, "reader-7", 0, 0, info(secure(true, true))));
-        assertEquals(1, SimControl.count("RFID_ConnectW"));
-        assertEquals(-99L, handle[0], "the simulator wrote a handle, but the status was not 0");
-
-        SimControl.setStatus("RFID_ConnectW", -5);
-        assertEquals(-5, ORLANatives.RFID_Connect(handle, "reader-7", 0, 0, info(null)));
-        assertEquals(-99L, handle[0]);
-    }
-
-    @Test
-    void reconnectAndDisconnectSignExtendTheHandle() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Reconnect(-2));
-        assertEquals(0xFFFFFFFFFFFFFFFEL, SimControl.args("RFID_Reconnect", -1)[0]);
-
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_DisConnect(0x7FFFFFFF));
-        assertEquals(0x7FFFFFFFL, SimControl.args("RFID_Disconnect", -1)[0]);
-
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_DisConnect(Integer.MIN_VALUE));
-        assertEquals(0xFFFFFFFF80000000L, SimControl.args("RFID_Disconnect", -1)[0]);
-
-        SimControl.setStatus("RFID_Reconnect", -12345);
-        assertEquals(-12345, ORLANatives.RFID_Reconnect(5));
-    }
-
-    @Test
-    void disconnectClosesTheSessionThatConnectOpened() {
-        long[] handle = new long[1];
-        assertEquals(0, ORLANatives.RFID_Connect(handle, "reader-7", 0, 0, info(null)));
-        int reader = (int) handle[0];
-
-        assertEquals(0, ORLANatives.RFID_Reconnect(reader));
-        assertEquals(0, ORLANatives.RFID_DisConnect(reader));
-        assertEquals(1, SimControl.count("RFID_Disconnect"));
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_Reconnect(reader));
+        for (int status : new int[] {7, -5}) {
+            SimControl.setStatus("RFID_ConnectW", status);
+            assertEquals(status, ORLANatives.RFID_Connect(handle, "reader-7", 0, 0, info(secure(true, true))));
+            assertEquals(-99L, handle[0], "the simulator wrote a handle, but the status was not 0");
+        }
     }
 }

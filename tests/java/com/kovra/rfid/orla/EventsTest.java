@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -37,11 +36,6 @@ class EventsTest extends NativeTest {
         assertEquals(WAIT_FAILED, ORLANatives.rfidUtils_WaitForSingleObject((int) wide, -1));
         assertArrayEquals(new long[] {0xFFFF_FFFF_8000_0005L, -1L},
                 SimControl.args("rfidUtils_WaitForSingleObject", -1), "handle and time-out sign-extended");
-        ORLANatives.RFID_RegisterEventNotification(-7, RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT, (int) wide);
-        assertArrayEquals(new long[] {-7L, 10, 0xFFFF_FFFF_8000_0005L},
-                SimControl.args("RFID_RegisterEventNotification", -1));
-        ORLANatives.RFID_DeregisterEventNotification(-7, RFID_EVENT_TYPE.GPS_DATA_EVENT);
-        assertArrayEquals(new long[] {-7L, 15}, SimControl.args("RFID_DeregisterEventNotification", -1));
     }
 
     @Test
@@ -53,7 +47,7 @@ class EventsTest extends NativeTest {
         long[] args = SimControl.args("rfidUtils_WaitForMultipleObjects", -1);
         assertArrayEquals(new long[] {2, 0}, new long[] {args[0], args[2]});
         byte[] copied = SimControl.blob("rfidUtils_WaitForMultipleObjects", -1, "handles");
-        assertArrayEquals(new long[] {first, second}, TagDataTest.fields(copied, 0, 8, 8, 8));
+        assertArrayEquals(new long[] {first, second}, fields(copied, 0, 8, 8, 8));
 
         assertEquals(WAIT_TIMEOUT, ORLANatives.rfidUtils_WaitForMultipleObjects(2, handles, true, 0));
         assertEquals(1L, SimControl.args("rfidUtils_WaitForMultipleObjects", -1)[2]);
@@ -72,7 +66,7 @@ class EventsTest extends NativeTest {
     }
 
     @Test
-    void eachEventTypeFillsItsOwnFields() {
+    void eachEventTypeFillsItsOwnFieldsAsTheBytesStand() {
         int r = connect();
         EVENT_DATA gpi = eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u16(0, 0x8002).u8(2, 1));
         assertEquals(-32766, gpi.port);
@@ -98,21 +92,13 @@ class EventsTest extends NativeTest {
         assertEquals(4, alarm.antennaID);
         assertEquals("9223372036854775807", eventData(r, RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT,
                 new Bytes.Builder(16).s64(0, Long.MAX_VALUE)).alarmCode);
-    }
 
-    @Test
-    void stateByteAndEmptyTextReachJavaAsTheyStand() {
-        int r = connect();
+        assertEquals("", eventData(r, RFID_EVENT_TYPE.READER_EXCEPTION_EVENT, new Bytes.Builder(1088).u32(0, 1))
+                .exceptionInfo, "an empty text is an empty string, not null");
         // The virtual machine keeps bit 0 of a boolean set through JNI: the byte 2 passed as it stands reads
         // false, where a byte normalised to 1 would read true.
         assertFalse(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 2)).eventInfo);
         assertTrue(eventData(r, RFID_EVENT_TYPE.GPI_EVENT, new Bytes.Builder(16).u8(2, 3)).eventInfo);
-
-        SimControl.setOutput("RFID_GetEventData", new Bytes.Builder(1088).u32(0, 1).build());
-        EVENT_DATA data = new EVENT_DATA();
-        data.exceptionInfo = "earlier";
-        assertEquals(0, ORLANatives.RFID_GetEventData(r, RFID_EVENT_TYPE.READER_EXCEPTION_EVENT, data));
-        assertEquals("", data.exceptionInfo, "an empty text is an empty string, not null");
     }
 
     @ParameterizedTest

@@ -1,13 +1,7 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.LoginTest.TEXT_CHARS;
-import static com.kovra.rfid.orla.LoginTest.assertZero;
-import static com.kovra.rfid.orla.LoginTest.lastVersion;
-import static com.kovra.rfid.orla.LoginTest.letters;
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
-import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
 import static org.junit.jupiter.api.Assertions.assertSame;
@@ -17,7 +11,7 @@ import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
-/** The reader-initiated LLRP connection: its configuration, initiate, disconnect and accept. */
+/** The reader-initiated LLRP connection: its configuration and accepting a connection. */
 class LlrpTest extends NativeTest {
 
     private static final String SET = "RFID_SetLLRPConnectionConfigW";
@@ -44,20 +38,19 @@ class LlrpTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, -1, "10.0.0.7", true, true)));
         byte[] r = sent();
         assertEquals(1096, r.length);
-        assertEquals(1, Bytes.u8(r, 0), "isClient");
-        assertZero(r, 1, 4);
-        assertEquals(0xFFFF_FFFFL, Bytes.u32(r, 4), "port");
-        assertEquals("10.0.0.7", Bytes.wide(r, 8, TEXT_CHARS));
+        assertArrayEquals(new long[] {1, 0, 0xFFFF_FFFFL}, fields(r, 0, 1, 1, 2, 4, 4), "isClient, port");
+        assertEquals("10.0.0.7", text(r, 8));
         assertZero(r, 8 + 4 * "10.0.0.7".length(), 1048);
-        assertNotEquals(0L, Bytes.ptr(r, 1048));
         assertZero(r, 1056, 1096);
-        byte[] secure = SimControl.blob(SET, -1, "config.pSecureModeConfig");
-        assertEquals(40, secure.length);
-        assertArrayEquals(new byte[] {1, 1}, Bytes.slice(secure, 0, 2));
-        assertZero(secure, 2, 40);
+        long first = Bytes.ptr(r, 1048);
+        assertArrayEquals(new Bytes.Builder(40).u8(0, 1).u8(1, 1).build(),
+                SimControl.blob(SET, -1, "config.pSecureModeConfig"));
 
         ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, 5084, "h", true, false));
         assertArrayEquals(new byte[] {1, 0}, Bytes.slice(SimControl.blob(SET, -1, "config.pSecureModeConfig"), 0, 2));
+        assertNotEquals(first, Bytes.ptr(sent(), 1048), "the first record was not handed back for reuse");
+        assertArrayEquals(new Bytes.Builder(40).u8(0, 1).u8(1, 1).build(), SimControl.read(first, 40),
+                "each secure record outlives its call");
     }
 
     @Test
@@ -66,24 +59,11 @@ class LlrpTest extends NativeTest {
         ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(false, 0, null, false, true));
         byte[] r = sent();
         assertEquals(0, Bytes.u8(r, 0), "isClient");
-        assertZero(r, 8, 1048);
-        assertEquals(0L, Bytes.ptr(r, 1048), "secureMode off: no secure record, whatever validatePeerCert says");
-        assertNull(SimControl.blob(SET, -1, "config.pSecureModeConfig"));
+        assertZero(r, 8, 1056);
+        assertNull(SimControl.blob(SET, -1, "config.pSecureModeConfig"), "secureMode off: no secure record");
 
         ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(false, 0, letters(TEXT_CHARS + 9), false, false));
-        assertEquals(letters(TEXT_CHARS), Bytes.wide(sent(), 8, TEXT_CHARS), "all 260 slots hold characters");
-    }
-
-    @Test
-    void eachSecureRecordOutlivesItsCall() {
-        int reader = connect();
-        ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, 1, "a", true, true));
-        long first = Bytes.ptr(sent(), 1048);
-        ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, 1, "a", true, false));
-        long second = Bytes.ptr(sent(), 1048);
-        assertNotEquals(first, second, "the first record was not handed back for reuse");
-        assertArrayEquals(new Bytes.Builder(40).u8(0, 1).u8(1, 1).build(),
-                SimControl.read(first, 40), "the first record is intact after both calls");
+        assertEquals(letters(TEXT_CHARS), text(sent(), 8), "cut to 260 characters, no terminator");
     }
 
     @Test
@@ -95,42 +75,22 @@ class LlrpTest extends NativeTest {
         LLRP_CONNECTION_CONFIG c = config(false, 0, null, false, true);
         SEC_LLRP_CONFIG javaSecure = c.pSecureModeConfig;
         assertEquals(0, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c));
-        assertTrue(c.isClient);
-        assertEquals(0x8000_0001, c.port);
-        assertEquals("llrp.example", c.hostServerIP);
+        assertArrayEquals(new Object[] {true, 0x8000_0001, "llrp.example", true, false}, new Object[] {c.isClient,
+            c.port, c.hostServerIP, c.pSecureModeConfig.secureMode, c.pSecureModeConfig.validatePeerCert});
         assertSame(javaSecure, c.pSecureModeConfig);
-        assertTrue(c.pSecureModeConfig.secureMode);
-        assertFalse(c.pSecureModeConfig.validatePeerCert);
 
         SimControl.setOutput(GET, new Bytes.Builder(1096).u32(4, 7).wide(8, "x", TEXT_CHARS).build());
         c = config(true, 0, null, true, true);
         assertEquals(0, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c));
         assertArrayEquals(new Object[] {false, 7, "x"}, new Object[] {c.isClient, c.port, c.hostServerIP});
         assertTrue(c.pSecureModeConfig.secureMode && c.pSecureModeConfig.validatePeerCert, "no record: untouched");
-    }
 
-    @Test
-    void failingGetLeavesTheObjectUnchanged() {
-        SimControl.setStatus(GET, 6);
-        long secure = SimControl.alloc(new Bytes.Builder(40).u8(0, 1).build());
+        SimControl.setStatus(GET, FAILED);
         SimControl.setOutput(GET, new Bytes.Builder(1096).u8(0, 1).u32(4, 9).ptr(1048, secure).build());
-        LLRP_CONNECTION_CONFIG c = config(false, 3, "before", false, true);
-        assertEquals(6, ORLANatives.RFID_GetLLRPConnectionConfig(connect(), c), "the simulator still wrote the record");
+        c = config(false, 3, "before", false, true);
+        assertEquals(FAILED, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c), "the simulator still wrote");
         assertArrayEquals(new Object[] {false, 3, "before", false, true}, new Object[] {c.isClient, c.port,
             c.hostServerIP, c.pSecureModeConfig.secureMode, c.pSecureModeConfig.validatePeerCert});
-    }
-
-    @Test
-    void initiateAndDisconnectSignExtendTheHandleAndReturnTheStatus() {
-        SimControl.setStatus("RFID_InitiateLLRPConnectionFromReader", -9);
-        assertEquals(-9, ORLANatives.RFID_InitiateLLRPConnectionFromReader(-2));
-        long[] args = SimControl.args("RFID_InitiateLLRPConnectionFromReader", -1);
-        assertEquals(0xFFFF_FFFF_FFFF_FFFEL, args[0]);
-        assertNotEquals(0L, args[1], "an output area is always given");
-
-        SimControl.setStatus("RFID_DisconnectLLRPConnectionFromReader", 12);
-        assertEquals(12, ORLANatives.RFID_DisconnectLLRPConnectionFromReader(Integer.MIN_VALUE));
-        assertEquals(0xFFFF_FFFF_8000_0000L, SimControl.args("RFID_DisconnectLLRPConnectionFromReader", -1)[0]);
     }
 
     @Test

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -52,7 +50,6 @@ class PreFilterTest extends NativeTest {
         Call call = Call.last("RFID_AddPreFilter");
         assertArrayEquals(new long[] {reader, 2}, new long[] {call.arg(0), call.arg(1)}, "the antenna as 16 bits");
         byte[] r = call.blob("preFilter");
-        assertNotEquals(0L, Bytes.ptr(r, 8));
         assertArrayEquals(new long[] {3, 12, 0x8020, 1, 4, 7, 2}, fields(r, 0, 4, 16, 2, 18, 2, 20, 4, 24, 4, 28, 4, 32, 4),
                 "the state-aware target overwrites the state-unaware action at 24");
         assertArrayEquals(new byte[] {(byte) 0xDE, (byte) 0xAD}, call.blob("preFilter.tagPattern"));
@@ -90,15 +87,5 @@ class PreFilterTest extends NativeTest {
         assertEquals(0L, call.arg(2));
         assertNotEquals(0L, call.arg(3), "the index still has a place to go");
         assertNull(call.blob("preFilter"));
-    }
-
-    @Test
-    void deleteTakesTheIndexTheReaderGave() {
-        int reader = connect();
-        int[] index = {-1};
-        assertEquals(0, ORLANatives.RFID_AddPreFilter(reader, 3, filter(null, null, null), index));
-        assertEquals(0, ORLANatives.RFID_DeletePreFilter(reader, 3, index[0]));
-        ORLANatives.RFID_DeletePreFilter(-3, 0x1_FFFF, -1);
-        assertArrayEquals(new long[] {-3L, 0xFFFF, 0xFFFF_FFFFL}, SimControl.args("RFID_DeletePreFilter", -1));
     }
 }

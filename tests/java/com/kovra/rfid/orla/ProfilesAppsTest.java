@@ -1,14 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.ReaderInfoTest.FAILED;
-import static com.kovra.rfid.orla.ReaderInfoTest.FIELD_BYTES;
-import static com.kovra.rfid.orla.ReaderInfoTest.FIELD_CHARS;
-import static com.kovra.rfid.orla.ReaderInfoTest.assertZero;
-import static com.kovra.rfid.orla.ReaderInfoTest.field;
-import static com.kovra.rfid.orla.ReaderInfoTest.letters;
-import static com.kovra.rfid.orla.ReaderInfoTest.nameList;
-import static com.kovra.rfid.orla.ReaderInfoTest.names;
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -23,8 +14,6 @@ import org.junit.jupiter.api.Test;
 
 /** Profiles, software and radio updates, user applications and the LLRP configuration's persistence. */
 class ProfilesAppsTest extends NativeTest {
-
-    private static final int CLEARED_HEAD_BYTES = ReaderInfoTest.CLEARED_HEAD_BYTES;
 
     private interface NameCall {
         int call(int reader, String name);
@@ -56,13 +45,13 @@ class ProfilesAppsTest extends NativeTest {
             assertEquals(status, entry.getValue().call(-2, "name of " + fn), fn);
             assertEquals(-2L, arg(fn, 0), fn + ": handle sign-extended");
             byte[] name = blob(fn, "name");
-            assertEquals(FIELD_BYTES, name.length, fn);
-            assertEquals("name of " + fn, field(name, 0), fn);
+            assertEquals(TEXT_BYTES, name.length, fn);
+            assertEquals("name of " + fn, text(name, 0), fn);
 
             entry.getValue().call(-2, null);
-            assertZero(blob(fn, "name"), 0, FIELD_BYTES);
-            entry.getValue().call(-2, letters(FIELD_CHARS + 9));
-            assertEquals(letters(FIELD_CHARS), field(blob(fn, "name"), 0), fn + ": cut, no terminator");
+            assertZero(blob(fn, "name"), 0, TEXT_BYTES);
+            entry.getValue().call(-2, letters(TEXT_CHARS + 9));
+            assertEquals(letters(TEXT_CHARS), text(blob(fn, "name"), 0), fn + ": cut, no terminator");
         }
     }
 
@@ -70,12 +59,12 @@ class ProfilesAppsTest extends NativeTest {
     void importAndExportKeepTheJavaOrderAndExportNormalisesItsFlag() {
         int reader = connect();
         assertEquals(0, ORLANatives.RFID_ImportProfileFromReader(reader, "dense", "/tmp/dense.xml"));
-        assertEquals("dense", field(blob("RFID_ImportProfileFromReaderW", "first"), 0));
-        assertEquals("/tmp/dense.xml", field(blob("RFID_ImportProfileFromReaderW", "second"), 0));
+        assertEquals("dense", text(blob("RFID_ImportProfileFromReaderW", "first"), 0));
+        assertEquals("/tmp/dense.xml", text(blob("RFID_ImportProfileFromReaderW", "second"), 0));
 
         assertEquals(0, ORLANatives.RFID_ExportProfileToReader(reader, "/tmp/fast.xml", null, true));
-        assertEquals("/tmp/fast.xml", field(blob("RFID_ExportProfileToReaderW", "first"), 0));
-        assertZero(blob("RFID_ExportProfileToReaderW", "second"), 0, FIELD_BYTES);
+        assertEquals("/tmp/fast.xml", text(blob("RFID_ExportProfileToReaderW", "first"), 0));
+        assertZero(blob("RFID_ExportProfileToReaderW", "second"), 0, TEXT_BYTES);
         assertEquals(1L, arg("RFID_ExportProfileToReaderW", 3));
         SimControl.setStatus("RFID_ExportProfileToReaderW", FAILED);
         assertEquals(FAILED, ORLANatives.RFID_ExportProfileToReader(reader, "a", "b", false));
@@ -83,7 +72,7 @@ class ProfilesAppsTest extends NativeTest {
 
         assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "scanner.pkg"));
         assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "scanner", true));
-        assertEquals("scanner", field(blob("RFID_SetUserAppAutoStartW", "name"), 0));
+        assertEquals("scanner", text(blob("RFID_SetUserAppAutoStartW", "name"), 0));
         assertEquals(1L, arg("RFID_SetUserAppAutoStartW", 2));
         assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "scanner", false));
         assertEquals(0L, arg("RFID_SetUserAppAutoStartW", 2));
@@ -123,13 +112,13 @@ class ProfilesAppsTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_UpdateSoftware(reader, update));
         byte[] record = blob("RFID_UpdateSoftwareW", "updateInfo");
         assertEquals(3120, record.length);
-        assertEquals("ftp://10.0.0.9/build", field(record, 0));
-        assertEquals("operator", field(record, 1040));
-        assertZero(record, 2080, 2080 + CLEARED_HEAD_BYTES);
+        assertEquals("ftp://10.0.0.9/build", text(record, 0));
+        assertEquals("operator", text(record, 1040));
+        assertZero(record, 2080, 2080 + ReaderInfoTest.CLEARED_HEAD_BYTES);
 
-        update.password = letters(FIELD_CHARS + 1);
+        update.password = letters(TEXT_CHARS + 1);
         ORLANatives.RFID_UpdateSoftware(reader, update);
-        assertEquals(letters(FIELD_CHARS), field(blob("RFID_UpdateSoftwareW", "updateInfo"), 2080));
+        assertEquals(letters(TEXT_CHARS), text(blob("RFID_UpdateSoftwareW", "updateInfo"), 2080));
 
         SimControl.setOutput("RFID_GetUpdateStatusW",
                 new Bytes.Builder(1144).s32(0, -1).wide(4, "copying image 3/7", 285).build());
@@ -138,12 +127,6 @@ class ProfilesAppsTest extends NativeTest {
         assertEquals(1144, blob("RFID_GetUpdateStatusW", "status").length);
         assertEquals(-1, status.percentage);
         assertEquals("copying image 3/7", status.updateInfo);
-
-        UPDATE_STATUS untouched = new UPDATE_STATUS();
-        SimControl.setStatus("RFID_GetUpdateStatusW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetUpdateStatus(reader, untouched));
-        assertEquals(0, untouched.percentage);
-        assertNull(untouched.updateInfo);
     }
 
     private static USER_APP_INFO[] apps(int n) {
@@ -192,32 +175,6 @@ class ProfilesAppsTest extends NativeTest {
     }
 
     @Test
-    void runStatusAndSaveStatusStartAtZeroAndAreWrittenOnSuccessOnly() {
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "logger"));
-        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {1});
-        USER_APP_RUN_STATUS run = new USER_APP_RUN_STATUS();
-        assertEquals(0, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
-        assertEquals("logger", field(blob("RFID_GetUserAppRunStatusW", "name"), 0));
-        assertArrayEquals(new byte[] {0}, blob("RFID_GetUserAppRunStatusW", "running"), "preset to 0");
-        assertTrue(run.runStatus);
-        SimControl.setOutput("RFID_GetUserAppRunStatusW", new byte[] {0});
-        SimControl.setStatus("RFID_GetUserAppRunStatusW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "logger", run));
-        assertTrue(run.runStatus, "untouched on failure");
-
-        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {1});
-        boolean[] saved = {false};
-        assertEquals(0, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
-        assertArrayEquals(new byte[] {0}, blob("RFID_GetSaveLlrpConfigStatus", "status"), "preset to 0");
-        assertTrue(saved[0]);
-        SimControl.setOutput("RFID_GetSaveLlrpConfigStatus", new byte[] {0});
-        SimControl.setStatus("RFID_GetSaveLlrpConfigStatus", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetSaveLlrpConfigStatus(reader, saved));
-        assertTrue(saved[0], "untouched on failure");
-    }
-
-    @Test
     void installedAppCountIsReturnedWhateverTheStatus() {
         SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 0x8000_0007L).build());
         assertEquals(0x8000_0007, ORLANatives.RFID_NumInstalledApps(-5));
@@ -227,19 +184,6 @@ class ProfilesAppsTest extends NativeTest {
         SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 9).build());
         SimControl.setStatus("rfid_GetNumInstalledApps", FAILED);
         assertEquals(9, ORLANatives.RFID_NumInstalledApps(-5), "the count, not the status");
-    }
-
-    @Test
-    void llrpSaveForwardsItsLongAndFactoryResetItsHandle() {
-        SimControl.setStatus("RFID_SaveLlrpConfig", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_SaveLlrpConfig(-4, 0x8000_0000_0000_0001L));
-        assertArrayEquals(new long[] {-4L, 0x8000_0000_0000_0001L}, SimControl.args("RFID_SaveLlrpConfig", -1));
-        ORLANatives.RFID_SaveLlrpConfig(7, -1L);
-        assertEquals(-1L, arg("RFID_SaveLlrpConfig", 1));
-
-        SimControl.setStatus("RFID_ResetConfigToFactoryDefaults", 33);
-        assertEquals(33, ORLANatives.RFID_ResetConfigToFactoryDefaults(-4));
-        assertEquals(-4L, arg("RFID_ResetConfigToFactoryDefaults", 0));
     }
 
     @Test

@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -10,98 +8,11 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
-import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
-/** RF mode, duty cycle, radio power, idle time-out, power negotiation and USB operation mode. */
+/** USB operation mode, power negotiation and what the simulated radio keeps. */
 class RadioTest extends NativeTest {
-
-    private static final int FAILED = 9;
-    private static final int INVALID_HANDLE = 1;
-
-    @Test
-    void settersPassTheirArgumentsInOrderAtTheirWidths() {
-        assertEquals(INVALID_HANDLE, ORLANatives.RFID_SetRFMode(-5, (short) 0x8001, -1, 0x1234_5678));
-        assertArrayEquals(new long[] {-5L, 0x8001, 0xFFFF_FFFFL, 0x1234_5678},
-                SimControl.args("RFID_SetRFMode", -1), "handle sign-extended, antenna 16 bits, values unsigned");
-
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_SetDutyCycle(reader, (short) -2));
-        Call duty = Call.last("RFID_SetDutyCycle");
-        assertEquals(0xFFFEL, duty.arg(1));
-        assertTrue(duty.arg(2) != 0, "a scratch area is passed");
-
-        assertEquals(0, ORLANatives.RFID_TurnOffRadioWhenIdle(reader, 0x8000_0000));
-        assertEquals(0x8000_0000L, Call.last("RFID_TurnOffRadioWhenIdle").arg(1));
-
-        assertEquals(0, ORLANatives.RFID_SetRadioPowerState(reader, true));
-        assertEquals(1L, Call.last("RFID_SetRadioPowerState").arg(1));
-        assertEquals(0, ORLANatives.RFID_SetRadioPowerState(reader, false));
-        assertEquals(0L, Call.last("RFID_SetRadioPowerState").arg(1));
-    }
-
-    @Test
-    void rfModeIsWrittenBackOnlyOnSuccessFromZeroedSlots() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetRFMode", new Bytes.Builder(8).u32(0, 0xFFFF_FFFEL).u32(4, 7).build());
-        int[] first = {11};
-        int[] second = {22};
-        assertEquals(0, ORLANatives.RFID_GetRFMode(reader, (short) 3, first, second));
-        assertArrayEquals(new int[] {-2, 7}, new int[] {first[0], second[0]}, "first value first");
-        Call call = Call.last("RFID_GetRFMode");
-        assertEquals(3L, call.arg(1));
-        assertArrayEquals(new long[] {0, 0}, new long[] {Bytes.u32(call.blob("first"), 0),
-            Bytes.u32(call.blob("second"), 0)}, "both slots preset to 0");
-
-        SimControl.setStatus("RFID_GetRFMode", FAILED);
-        first[0] = 11;
-        second[0] = 22;
-        assertEquals(FAILED, ORLANatives.RFID_GetRFMode(reader, (short) 3, first, second));
-        assertArrayEquals(new int[] {11, 22}, new int[] {first[0], second[0]});
-    }
-
-    @Test
-    void scalarGettersWriteElementZeroOnlyOnSuccess() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetDutyCycle", new Bytes.Builder(2).u16(0, 0x8001).build());
-        short[] duty = {5};
-        assertEquals(0, ORLANatives.RFID_GetDutyCycle(reader, duty));
-        assertEquals((short) 0x8001, duty[0]);
-        assertEquals(0, Bytes.u16(Call.last("RFID_GetDutyCycle").blob("dutyCycleIndex"), 0), "preset to 0");
-        assertTrue(Call.last("RFID_GetDutyCycle").arg(2) != 0, "a scratch area is passed");
-
-        SimControl.setOutput("RFID_GetRadioPowerState", new byte[] {0});
-        boolean[] on = {true};
-        assertEquals(0, ORLANatives.RFID_GetRadioPowerState(reader, on));
-        assertFalse(on[0]);
-
-        SimControl.setStatus("RFID_GetDutyCycle", FAILED);
-        SimControl.setStatus("RFID_GetRadioPowerState", FAILED);
-        SimControl.setOutput("RFID_GetRadioPowerState", new byte[] {1});
-        duty[0] = 5;
-        on[0] = false;
-        assertEquals(FAILED, ORLANatives.RFID_GetDutyCycle(reader, duty));
-        assertEquals(FAILED, ORLANatives.RFID_GetRadioPowerState(reader, on));
-        assertEquals(5, duty[0]);
-        assertFalse(on[0]);
-    }
-
-    @Test
-    void idleTimeoutIsClearedBeforeTheCallSoAFailureLeavesZero() {
-        int reader = connect();
-        SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 0xFFFF_FFFFL).build());
-        int[] timeout = {1234};
-        assertEquals(0, ORLANatives.RFID_GetRadioIdleTimeout(reader, timeout));
-        assertEquals(-1, timeout[0]);
-        assertEquals(0L, Bytes.u32(Call.last("RFID_GetRadioIdleTimeout").blob("timeout"), 0), "preset to 0");
-
-        SimControl.setStatus("RFID_GetRadioIdleTimeout", FAILED);
-        SimControl.setOutput("RFID_GetRadioIdleTimeout", new Bytes.Builder(4).u32(0, 55).build());
-        timeout[0] = 1234;
-        assertEquals(FAILED, ORLANatives.RFID_GetRadioIdleTimeout(reader, timeout));
-        assertEquals(0, timeout[0]);
-    }
 
     @Test
     void usbSetReadsTheEnumObjectAndGetWritesTheRawShort() {
@@ -123,12 +34,6 @@ class RadioTest extends NativeTest {
         assertEquals((short) 0x8002, got.enumMode, "low 16 bits of the mode, sign-extended");
         assertTrue(got.allowLLRPConnectionOverride);
         assertSame(USB_OPERATION_MODE.USB_OPERATION_MODE_NETWORK, got.mode, "the enum object is not written");
-
-        SimControl.setStatus("RFID_GetUSBOperationMode", FAILED);
-        USB_OPERATION_MODE_SETTINGS kept = new USB_OPERATION_MODE_SETTINGS();
-        assertEquals(FAILED, ORLANatives.RFID_GetUSBOperationMode(reader, kept));
-        assertEquals(0, kept.enumMode);
-        assertFalse(kept.allowLLRPConnectionOverride);
     }
 
     @Test

@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
@@ -104,9 +103,8 @@ class ReaderCapsTest extends NativeTest {
 
         assertSame(id, caps.readerID);
         assertEquals(0x8000_0002, caps.readerID.enumType);
-        assertEquals("RID-42", caps.readerID.value);
-        assertEquals("3.10.7", caps.firmWareVersion);
-        assertEquals("Gate 4", caps.modelName);
+        assertArrayEquals(new String[] {"RID-42", "3.10.7", "Gate 4"},
+                new String[] {caps.readerID.value, caps.firmWareVersion, caps.modelName});
         assertArrayEquals(new short[] {-2, 4, -32768, 32767, -1, (short) 0x8348},
                 new short[] {caps.numAntennas, caps.numGPIs, caps.numGPOs, caps.maxNumOperationsInAccessSequence,
                     caps.maxNumPreFilters, caps.countryCode});
@@ -161,17 +159,15 @@ class ReaderCapsTest extends NativeTest {
         assertEquals(0, getCaps(caps, r));
 
         assertSame(sensitivities, caps.receiveSensitivtyTable.receiveSensitivityValueList);
-        assertArrayEquals(new int[] {-100, Integer.MAX_VALUE, Integer.MIN_VALUE, MARK, MARK}, sensitivities);
-        assertEquals(3, caps.receiveSensitivtyTable.numValues);
         assertSame(powers, caps.transmitPowerLevelTable.powerValueList);
-        assertArrayEquals(new short[] {-1, 300, -32768, 7, MARK, MARK}, powers);
-        assertEquals(4, caps.transmitPowerLevelTable.numValues);
         assertSame(fixed, caps.fixedFreqInfo.freqList);
-        assertArrayEquals(new int[] {865_700, -5, MARK, MARK}, fixed);
-        assertEquals(2, caps.fixedFreqInfo.numFreq);
         assertSame(duty, caps.dutyCycleTable.dutyCycleValueList);
+        assertArrayEquals(new int[] {-100, Integer.MAX_VALUE, Integer.MIN_VALUE, MARK, MARK}, sensitivities);
+        assertArrayEquals(new short[] {-1, 300, -32768, 7, MARK, MARK}, powers);
+        assertArrayEquals(new int[] {865_700, -5, MARK, MARK}, fixed);
         assertArrayEquals(new short[] {100, -1, -32768, MARK, MARK}, duty);
-        assertEquals(3, caps.dutyCycleTable.numValues);
+        assertArrayEquals(new short[] {3, 4, 2, 3}, new short[] {caps.receiveSensitivtyTable.numValues,
+            caps.transmitPowerLevelTable.numValues, caps.fixedFreqInfo.numFreq, caps.dutyCycleTable.numValues});
     }
 
     /** Field f of entry e of RF mode table t: distinct everywhere, the top bit set in every other field. */

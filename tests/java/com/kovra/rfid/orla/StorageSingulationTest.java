@@ -1,7 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
@@ -38,13 +36,6 @@ class StorageSingulationTest extends NativeTest {
                 new int[] {got.maxTagCount, got.maxMemoryBankByteCount, got.maxTagIDByteCount, got.tagFields});
         assertTrue(got.enableAccessReports);
         assertFalse(got.discardTagsOnInventoryStop);
-
-        SimControl.setStatus("RFID_GetTagStorageSettings", 5);
-        TAG_STORAGE_SETTINGS kept = new TAG_STORAGE_SETTINGS();
-        assertEquals(5, ORLANatives.RFID_GetTagStorageSettings(reader, kept));
-        assertArrayEquals(new int[4], new int[] {kept.maxTagCount, kept.maxMemoryBankByteCount,
-            kept.maxTagIDByteCount, kept.tagFields});
-        assertFalse(kept.enableAccessReports);
     }
 
     /**
@@ -56,14 +47,14 @@ class StorageSingulationTest extends NativeTest {
     void booleansGoOutAsZeroOrOneAndComeBackAsTheyStand() {
         int reader = connect();
         TAG_STORAGE_SETTINGS s = new TAG_STORAGE_SETTINGS();
-        TagDataTest.rawBoolean(s, "enableAccessReports", 2);
-        TagDataTest.rawBoolean(s, "discardTagsOnInventoryStop", 0x80);
+        rawBoolean(s, "enableAccessReports", 2);
+        rawBoolean(s, "discardTagsOnInventoryStop", 0x80);
         assertEquals(0, ORLANatives.RFID_SetTagStorageSettings(reader, s));
         assertArrayEquals(new long[] {1, 1},
                 fields(SimControl.blob("RFID_SetTagStorageSettings", -1, "tagStorageSettings"), 14, 1, 15, 1));
 
         SINGULATION_CONTROL c = new SINGULATION_CONTROL();
-        TagDataTest.rawBoolean(c.stateAwareSingulationAction, "perform", 2);
+        rawBoolean(c.stateAwareSingulationAction, "perform", 2);
         assertEquals(0, ORLANatives.RFID_SetSingulationControl(reader, 1, c));
         assertEquals(1, fields(SimControl.blob("RFID_SetSingulationControl", -1, "singulationControl"), 8, 1)[0]);
 
@@ -113,11 +104,5 @@ class StorageSingulationTest extends NativeTest {
         assertSame(SESSION.SESSION_S0, c.session);
         assertSame(INVENTORY_STATE.INVENTORY_STATE_A, a.inventoryState);
         assertSame(SL_FLAG.SL_ALL, a.slFlag);
-
-        SimControl.setStatus("RFID_GetSingulationControl", 6);
-        SINGULATION_CONTROL kept = new SINGULATION_CONTROL();
-        assertEquals(6, ORLANatives.RFID_GetSingulationControl(reader, 4, kept));
-        assertArrayEquals(new short[3], new short[] {kept.enumSession, kept.tagPopulation, kept.tagTransitTimeMilliseconds});
-        assertFalse(kept.stateAwareSingulationAction.perform);
     }
 }

@@ -9,7 +9,6 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
-import java.lang.reflect.Field;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
@@ -18,100 +17,17 @@ import org.junit.jupiter.params.provider.CsvSource;
 /**
  * Tag records written into Java tag objects: records are composed at the
  * reader's offsets and handed to RFID_GetReadTag as the simulator's output.
- * Also holds the helpers the other tag tests share.
  */
 class TagDataTest extends NativeTest {
 
-    static int connect() {
-        long[] handle = {0};
-        assertEquals(0, ORLANatives.RFID_Connect(handle, "sim", 0, 0, new CONNECTION_INFO()));
-        return (int) handle[0];
-    }
-
-    /** Unsigned little-endian fields of a record, given as (offset, width in bytes) pairs. */
-    static long[] fields(byte[] b, int... offsetWidth) {
-        long[] values = new long[offsetWidth.length / 2];
-        for (int i = 0; i < values.length; i++) {
-            int off = offsetWidth[2 * i];
-            int width = offsetWidth[2 * i + 1];
-            values[i] = width == 8 ? Bytes.s64(b, off) : width == 4 ? Bytes.u32(b, off)
-                    : width == 2 ? Bytes.u16(b, off) : Bytes.u8(b, off);
-        }
-        return values;
-    }
-
-    /**
-     * Stores a raw byte into a boolean field of object, as native code can leave it; Java code itself only
-     * ever stores 0 or 1 there.
-     */
-    static void rawBoolean(Object object, String field, int value) {
-        try {
-            Class<?> unsafeClass = Class.forName("sun.misc.Unsafe");
-            Field theUnsafe = unsafeClass.getDeclaredField("theUnsafe");
-            theUnsafe.setAccessible(true);
-            Object unsafe = theUnsafe.get(null);
-            long offset = (long) unsafeClass.getMethod("objectFieldOffset", Field.class)
-                    .invoke(unsafe, object.getClass().getField(field));
-            unsafeClass.getMethod("putByte", Object.class, long.class, byte.class)
-                    .invoke(unsafe, object, offset, (byte) value);
-        } catch (ReflectiveOperationException e) {
-            throw new AssertionError(e);
-        }
-    }
-
-    /** A calendar time at off whose members are first, first + 1, ... first + 7. */
-    static Bytes.Builder systemTime(Bytes.Builder b, int off, int first) {
-        for (int i = 0; i < 8; i++) {
-            b.u16(off + 2 * i, first + i);
-        }
-        return b;
-    }
-
-    static short[] members(SYSTEMTIME t) {
-        return new short[] {t.Year, t.Month, t.DayOfWeek, t.Day, t.Hour, t.Minute, t.Second, t.Milliseconds};
-    }
-
-    static short[] sequence(int first) {
-        short[] s = new short[8];
-        for (int i = 0; i < 8; i++) {
-            s[i] = (short) (first + i);
-        }
-        return s;
-    }
-
-    /** A 192-byte record with every field set, seen times in the calendar form, no optional records. */
-    static Bytes.Builder fullRecord(byte[] tagID) {
-        Bytes.Builder b = new Bytes.Builder(192).u32(0, 0x8000_0001L).u32(4, 192)
-                .ptr(8, SimControl.alloc(tagID)).u32(16, tagID.length).u32(20, 64)
-                .u16(24, 0xFFFF).u32(28, 0xFFFF_FFFEL).u16(32, 0x8001).u16(34, 0xFFFE)
-                .u8(72, 0xC4).u16(74, 0x8000).u16(76, 0x8000).u32(84, 7).u32(88, 3)
-                .ptr(96, SimControl.alloc(new byte[] {(byte) 0xAB, 0x0C, (byte) 0xDE}))
-                .u32(104, 0xFFFF_FFFFL).u32(108, 3).u32(112, 8).u32(116, 2).u16(168, 0xFED4);
-        return systemTime(systemTime(systemTime(b, 40, 0x7FFE), 56, 2024), 120, 0xFFF0);
-    }
-
     /** Reads one record through a tag record that Java holds; returns the status. */
-    static int readTag(int handle, TAG_DATA tag, byte[] record, boolean utcTime) {
+    private static int readTag(int handle, TAG_DATA tag, byte[] record, boolean utcTime) {
         long address = ORLANatives.RFID_AllocateTag(handle);
         SimControl.setOutput("RFID_GetReadTag", record);
         int status = ORLANatives.RFID_GetReadTag(handle, tag, address, utcTime);
         assertEquals(0, ORLANatives.RFID_DeallocateTag(handle, address));
         assertEquals(address, SimControl.args("RFID_GetReadTag", -1)[1]);
         return status;
-    }
-
-    /** A tag object whose optionally written fields hold recognisable values. */
-    static TAG_DATA markedTag() {
-        TAG_DATA tag = new TAG_DATA();
-        tag.seenTime.upTime.firstSeenTimeStamp = 77;
-        tag.seenTime.utcTime.firstSeenTimeStamp.Year = 77;
-        tag.AccessOperationResult.value.qtData.qtControlData = 77;
-        tag.AccessOperationResult.value.nxpChangeConfigWordResult.ChangeConfigWord = 77;
-        tag.AccessOperationResult.value.authenticateReadBufferResult = "kept";
-        tag.gpsLocation.longitude = 77;
-        tag.location.relativeDistance = 77;
-        tag.isContainLocationInfo = true;
-        return tag;
     }
 
     @Test

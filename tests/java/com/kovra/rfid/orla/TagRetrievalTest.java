@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.connect;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
@@ -17,7 +16,7 @@ class TagRetrievalTest extends NativeTest {
     private static byte[] records(int count) {
         ByteArrayOutputStream all = new ByteArrayOutputStream();
         for (int i = 0; i < count; i++) {
-            all.writeBytes(TagDataTest.fullRecord(new byte[] {(byte) (0xA0 + i)}).s64(40, 1000 + i).build());
+            all.writeBytes(fullRecord(new byte[] {(byte) (0xA0 + i)}).s64(40, 1000 + i).build());
         }
         return all.toByteArray();
     }

@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla;
 
-import static com.kovra.rfid.orla.TagDataTest.fields;
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
@@ -31,17 +30,8 @@ class TriggerTest extends NativeTest {
         return inventory(trigger).blob("triggerInfo");
     }
 
-    /** A calendar time whose members are first, first + 1, ... first + 7, and its 16 bytes. */
-    private static SYSTEMTIME time(int first) {
-        short[] m = TagDataTest.sequence(first);
-        SYSTEMTIME t = new SYSTEMTIME();
-        t.Year = m[0]; t.Month = m[1]; t.DayOfWeek = m[2]; t.Day = m[3];
-        t.Hour = m[4]; t.Minute = m[5]; t.Second = m[6]; t.Milliseconds = m[7];
-        return t;
-    }
-
     private static byte[] timeBytes(int first) {
-        return TagDataTest.systemTime(new Bytes.Builder(16), 0, first).build();
+        return systemTime(new Bytes.Builder(16), 0, first).build();
     }
 
     private static TRIGGER_WITH_TIMEOUT withTimeout(int n, int timeout) {
@@ -59,7 +49,7 @@ class TriggerTest extends NativeTest {
         v.periodic.periodMilliseconds = 0x89AB_CDEF;
         v.periodic.startTime = time(0xFFF8);
         v.gpi.portNumber = (short) 0x8001;
-        TagDataTest.rawBoolean(v.gpi, "eventInfo", 2);
+        rawBoolean(v.gpi, "eventInfo", 2);
         v.gpi.timeoutMilliseconds = -1;
         v.handheld.handheldEvent = HANDHELD_TRIGGER_EVENT_TYPE.HANDHELD_TRIGGER_PRESSED;
         v.handheld.timeoutMilliseconds = 500;
@@ -89,22 +79,13 @@ class TriggerTest extends NativeTest {
     }
 
     @Test
-    void immediateStartLeavesBothZeroedTimeBlocksInPlace() {
-        long[] pointers = fields(record(new TRIGGER_INFO()), 8, 8, 16, 8);
-        assertNotEquals(0L, pointers[0]);
-        assertNotEquals(0L, pointers[1]);
-        assertArrayEquals(new byte[6], SimControl.read(pointers[0], 6), "never freed, so still readable");
-        assertArrayEquals(new byte[16], SimControl.read(pointers[1], 16));
-    }
-
-    @Test
     void stopValuesSitAtTheirOffsets() {
         TRIGGER_INFO t = new TRIGGER_INFO();
         STOP_TRIGGER_VALUE v = t.stopTrigger.value;
         v.duration = -2;
         v.gpi = new GPI_TRIGGER();
         v.gpi.portNumber = 3;
-        TagDataTest.rawBoolean(v.gpi, "eventInfo", 0x80);
+        rawBoolean(v.gpi, "eventInfo", 0x80);
         v.gpi.timeoutMilliseconds = 0x1234_5678;
         v.tagObservation = withTimeout(0xFFFF, 700);
         v.numAttempts = withTimeout(4, 900);
@@ -124,13 +105,24 @@ class TriggerTest extends NativeTest {
     }
 
     @Test
+    void aDefaultTriggerHasZeroedTimeBlocksReportStorageAndExtraBlock() {
+        Call call = inventory(new TRIGGER_INFO());
+        long[] pointers = fields(call.blob("triggerInfo"), 8, 8, 16, 8);
+        assertArrayEquals(new byte[6], SimControl.read(pointers[0], 6), "never freed, so still readable");
+        assertArrayEquals(new byte[16], SimControl.read(pointers[1], 16));
+        assertNull(call.blob("triggerInfo.tagEventReportInfo"), "no tag event reporting: NULL");
+        assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
+        assertArrayEquals(new byte[256], call.blob("triggerInfo.extraTriggers"));
+
+        TRIGGER_INFO noArrays = new TRIGGER_INFO();
+        noArrays.extraTriggers.startTrigger = null;
+        noArrays.extraTriggers.stopTrigger = null;
+        assertArrayEquals(new byte[256], inventory(noArrays).blob("triggerInfo.extraTriggers"));
+    }
+
+    @Test
     void tagEventsAndReportTriggers() {
         TRIGGER_INFO t = new TRIGGER_INFO();
-        Call call = inventory(t);
-        assertEquals(0L, fields(call.blob("triggerInfo"), 40, 8)[0], "no tag event reporting: NULL");
-        assertNull(call.blob("triggerInfo.tagEventReportInfo"));
-        assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
-
         t.tagEventReportInfo = new TAG_EVENT_REPORT_INFO();
         t.tagEventReportInfo.reportNewTagEvent = TAG_EVENT_REPORT_TRIGGER.MODERATED;
         t.tagEventReportInfo.newTagEventModeratedTimeoutMilliseconds = (short) 0x8001;
@@ -141,19 +133,10 @@ class TriggerTest extends NativeTest {
         t.tagEventReportInfo.tagStationaryModeratedTimeoutMilliseconds = -1;
         t.reportTriggers = new REPORT_TRIGGERS();
         t.reportTriggers.periodicReportDuration = -1;
-        call = inventory(t);
+        Call call = inventory(t);
         assertArrayEquals(new long[] {2, 0x8001, 1, 200, 0, 300, 1, 0xFFFF}, fields(
                 call.blob("triggerInfo.tagEventReportInfo"), 0, 4, 4, 2, 8, 4, 12, 2, 16, 4, 20, 2, 24, 4, 28, 2));
         assertArrayEquals(new long[] {0xFFFF_FFFFL}, fields(call.blob("triggerInfo.reportTriggers"), 0, 4));
-    }
-
-    @Test
-    void extraBlockIsZeroWithoutEntries() {
-        assertArrayEquals(new byte[256], inventory(new TRIGGER_INFO()).blob("triggerInfo.extraTriggers"));
-        TRIGGER_INFO noArrays = new TRIGGER_INFO();
-        noArrays.extraTriggers.startTrigger = null;
-        noArrays.extraTriggers.stopTrigger = null;
-        assertArrayEquals(new byte[256], inventory(noArrays).blob("triggerInfo.extraTriggers"));
     }
 
     @Test
@@ -163,7 +146,7 @@ class TriggerTest extends NativeTest {
         starts[1] = new START_TRIGGER();
         starts[1].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_GPI;
         starts[1].value.gpi.portNumber = 2;
-        TagDataTest.rawBoolean(starts[1].value.gpi, "eventInfo", 2);
+        rawBoolean(starts[1].value.gpi, "eventInfo", 2);
         starts[1].value.gpi.timeoutMilliseconds = 99;
         starts[3] = new START_TRIGGER();
         starts[3].type = START_TRIGGER_TYPE.START_TRIGGER_TYPE_PERIODIC;
