@@ -32,10 +32,10 @@ public final class ReadTagsBench {
 
         double floorNs = nsPerCall(SimControl::nop);
         double forwarderNs = nsPerCall(() -> ORLANatives.RFID_StopInventory(reader));
-        System.out.printf("%-40s %12s %14s %10s%n", "what", "ns/call", "tags/s", "x floor");
-        System.out.printf("%-40s %12.1f %14s %10.2f%n", "empty JNI native (floor)", floorNs, "-", 1.0);
-        System.out.printf("%-40s %12.1f %14s %10.2f%n", "RFID_StopInventory (thin forwarder)", forwarderNs, "-",
-                forwarderNs / floorNs);
+        System.out.printf("%-40s %12s %10s %14s %10s%n", "what", "ns/call", "ns/tag", "tags/s", "x floor");
+        System.out.printf("%-40s %12.1f %10s %14s %10.2f%n", "empty JNI native (floor)", floorNs, "-", "-", 1.0);
+        System.out.printf("%-40s %12.1f %10s %14s %10.2f%n", "RFID_StopInventory (thin forwarder)", forwarderNs, "-",
+                "-", forwarderNs / floorNs);
         for (int batch : new int[] {1, 64, 256}) {
             SimControl.setOutput("rfid_GetReadTags", repeat(record, batch));
             TAG_DATA[] tags = new TAG_DATA[batch];
@@ -47,8 +47,8 @@ public final class ReadTagsBench {
             if (count[0] != batch || !"300012345678ABCDEF012345".equals(tags[batch - 1].tagID)) {
                 throw new IllegalStateException("batch of " + batch + " came back as " + count[0] + " tags");
             }
-            System.out.printf("%-40s %12.1f %14.0f %10.2f%n", "rfid_GetReadTags, batch of " + batch, ns,
-                    batch * 1e9 / ns, ns / floorNs);
+            System.out.printf("%-40s %12.1f %10.1f %14.0f %10.2f%n", "rfid_GetReadTags, batch of " + batch, ns,
+                    ns / batch, batch * 1e9 / ns, ns / floorNs);
         }
         ORLANatives.RFID_DisConnect(reader);
         SimControl.reset();
