@@ -72,10 +72,11 @@ using sim::Out;
 
 extern "C" {
 
+// What the caller left in the record is captured ("config") before the
+// answer overwrites it.
 int32_t RFID_GetLLRPConnectionConfigW(int64_t handle, void* config) {
   ApiCall call("RFID_GetLLRPConnectionConfigW", handle, config);
-  call.require(config);
-  call.outputs({{config, sim::kLlrpConfigBytes}}, sim::llrpAnswer(handle));
+  call.outputs({{config, sim::kLlrpConfigBytes, "config"}}, sim::llrpAnswer(handle));
   return call.finish();
 }
 

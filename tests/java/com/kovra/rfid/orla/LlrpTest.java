@@ -75,6 +75,7 @@ class LlrpTest extends NativeTest {
         LLRP_CONNECTION_CONFIG c = config(false, 0, null, false, true);
         SEC_LLRP_CONFIG javaSecure = c.pSecureModeConfig;
         assertEquals(0, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c));
+        assertZero(SimControl.blob(GET, -1, "config"), 0, 1096);
         assertArrayEquals(new Object[] {true, 0x8000_0001, "llrp.example", true, false}, new Object[] {c.isClient,
             c.port, c.hostServerIP, c.pSecureModeConfig.secureMode, c.pSecureModeConfig.validatePeerCert});
         assertSame(javaSecure, c.pSecureModeConfig);
