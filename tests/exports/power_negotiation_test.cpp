@@ -150,14 +150,14 @@ TEST_F(PowerNegotiationTest, SetStateReadsStatusAndPassesItAsOneOrZero) {
       << "handle sign-extended";
 }
 
-TEST_F(PowerNegotiationTest, GetStateWritesPowernegstateOnlyOnSuccess) {
+TEST_F(PowerNegotiationTest, GetStateWritesPowernegstateAsItStandsOnlyOnSuccess) {
   Native get = native(kGetState);
   ASSERT_NE(nullptr, get);
   FakeObject state;
-  sim::setScriptedOutput("RFID_GetPowerNegotiationState", {1});
+  sim::setScriptedOutput("RFID_GetPowerNegotiationState", {2});
   EXPECT_EQ(sim::kSuccess, get(jni_.env(), nullptr, reader_, object(state)));
   EXPECT_EQ((std::vector<std::string>{"Set powernegstate Z"}), state.log);
-  EXPECT_EQ(1, state.fields["powernegstate"].z);
+  EXPECT_EQ(2, state.fields["powernegstate"].z) << "the byte as the reader gave it";
 
   FakeObject untouched;
   sim::setScriptedStatus("RFID_GetPowerNegotiationState", 5);

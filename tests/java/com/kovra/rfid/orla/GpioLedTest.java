@@ -40,7 +40,7 @@ class GpioLedTest extends NativeTest {
         LED_INFO led = new LED_INFO();
         led.ledColor = LED_COLOR.LED_YELLOW;
         led.duration = -1;
-        led.blink = true;
+        rawBoolean(led, "blink", 2);
         assertEquals(0, ORLANatives.RFID_SetUserLED(reader, led));
         byte[] sent = SimControl.blob("RFID_SetUserLED", -1, "ledInfo");
         assertArrayEquals(new long[] {3, 0xFFFF_FFFFL, 1}, fields(sent, 0, 4, 4, 4, 8, 1));

@@ -35,10 +35,14 @@ class LlrpTest extends NativeTest {
     @Test
     void setPassesRoleUnsignedPortHostAndTheSecureRecord() {
         int reader = connect();
-        assertEquals(0, ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, -1, "10.0.0.7", true, true)));
+        LLRP_CONNECTION_CONFIG raw = config(true, -1, "10.0.0.7", true, true);
+        rawBoolean(raw, "isClient", 2);
+        rawBoolean(raw.pSecureModeConfig, "secureMode", 0x40);
+        rawBoolean(raw.pSecureModeConfig, "validatePeerCert", 0x80);
+        assertEquals(0, ORLANatives.RFID_SetLLRPConnectionConfig(reader, raw));
         byte[] r = sent();
         assertEquals(1096, r.length);
-        assertArrayEquals(new long[] {1, 0, 0xFFFF_FFFFL}, fields(r, 0, 1, 1, 2, 4, 4), "isClient, port");
+        assertArrayEquals(new long[] {1, 0, 0xFFFF_FFFFL}, fields(r, 0, 1, 1, 2, 4, 4), "isClient as 1, port");
         assertEquals("10.0.0.7", text(r, 8));
         assertZero(r, 8 + 4 * "10.0.0.7".length(), 1048);
         assertZero(r, 1056, 1096);
@@ -69,7 +73,8 @@ class LlrpTest extends NativeTest {
     @Test
     void getWritesEveryFieldOnSuccessAndTheSecureObjectOnlyWhenThereIsARecord() {
         int reader = connect();
-        long secure = SimControl.alloc(new Bytes.Builder(40).u8(0, 1).u8(1, 0).build());
+        // Bytes go to Java as they stand, and the virtual machine keeps bit 0: 2 reads false, 3 true.
+        long secure = SimControl.alloc(new Bytes.Builder(40).u8(0, 3).u8(1, 2).build());
         SimControl.setOutput(GET, new Bytes.Builder(1096).u8(0, 1).u32(4, 0x8000_0001L)
                 .wide(8, "llrp.example", TEXT_CHARS).ptr(1048, secure).build());
         LLRP_CONNECTION_CONFIG c = config(false, 0, null, false, true);
@@ -80,7 +85,7 @@ class LlrpTest extends NativeTest {
             c.port, c.hostServerIP, c.pSecureModeConfig.secureMode, c.pSecureModeConfig.validatePeerCert});
         assertSame(javaSecure, c.pSecureModeConfig);
 
-        SimControl.setOutput(GET, new Bytes.Builder(1096).u32(4, 7).wide(8, "x", TEXT_CHARS).build());
+        SimControl.setOutput(GET, new Bytes.Builder(1096).u8(0, 2).u32(4, 7).wide(8, "x", TEXT_CHARS).build());
         c = config(true, 0, null, true, true);
         assertEquals(0, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c));
         assertArrayEquals(new Object[] {false, 7, "x"}, new Object[] {c.isClient, c.port, c.hostServerIP});

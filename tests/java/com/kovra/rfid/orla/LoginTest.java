@@ -29,8 +29,9 @@ class LoginTest extends NativeTest {
 
     @Test
     void loginRecordCarriesTextsVersionAndFlags() {
-        assertEquals(0, ORLANatives.RFID_Login(new long[1], login("reader-3", "admin", "s3cret", true),
-                READER_TYPE.SLED_READER, true));
+        LOGIN_INFO info = login("reader-3", "admin", "s3cret", true);
+        rawBoolean(info, "forceLogin", 0x80);
+        assertEquals(0, ORLANatives.RFID_Login(new long[1], info, READER_TYPE.SLED_READER, true));
         long[] args = SimControl.args("RFID_LoginW", -1);
         assertNotEquals(0L, args[0]);
         assertArrayEquals(new long[] {READER_TYPE.SLED_READER.ordinal(), 1, 0},

@@ -137,11 +137,14 @@ class ProfilesAppsTest extends NativeTest {
         return apps;
     }
 
-    /** A list of two entries; its count field says 9, which the library must not read. */
+    /**
+     * A list of two entries; its count field says 9, which the library must not read. The flag bytes 3 and 2
+     * reach Java as they stand, of which the virtual machine keeps bit 0: true and false.
+     */
     private static byte[] twoApps() {
         byte[] entries = new Bytes.Builder(48)
-                .ptr(0, SimControl.allocWide("logger")).u8(8, 1).u8(9, 0).ptr(16, SimControl.allocWide("v1.2"))
-                .ptr(24, SimControl.allocWide("bridge")).u8(32, 0).u8(33, 1).ptr(40, SimControl.allocWide("beta"))
+                .ptr(0, SimControl.allocWide("logger")).u8(8, 3).u8(9, 2).ptr(16, SimControl.allocWide("v1.2"))
+                .ptr(24, SimControl.allocWide("bridge")).u8(32, 2).u8(33, 3).ptr(40, SimControl.allocWide("beta"))
                 .build();
         return new Bytes.Builder(16).u32(0, 9).ptr(8, SimControl.alloc(entries)).build();
     }

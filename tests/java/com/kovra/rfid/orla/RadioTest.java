@@ -20,7 +20,7 @@ class RadioTest extends NativeTest {
         USB_OPERATION_MODE_SETTINGS set = new USB_OPERATION_MODE_SETTINGS();
         set.mode = USB_OPERATION_MODE.USB_OPERATION_MODE_SERIAL;
         set.enumMode = 7;
-        set.allowLLRPConnectionOverride = true;
+        rawBoolean(set, "allowLLRPConnectionOverride", 0x40);
         assertEquals(0, ORLANatives.RFID_SetUSBOperationMode(reader, set));
         assertArrayEquals(new long[] {1, 1}, fields(SimControl.blob("RFID_SetUSBOperationMode", -1, "settings"),
                 0, 4, 4, 1), "mode from the ordinal, flag as 1");
@@ -28,11 +28,12 @@ class RadioTest extends NativeTest {
         ORLANatives.RFID_SetUSBOperationMode(reader, set);
         assertEquals(0, Bytes.u8(SimControl.blob("RFID_SetUSBOperationMode", -1, "settings"), 4));
 
-        SimControl.setOutput("RFID_GetUSBOperationMode", new Bytes.Builder(8).u32(0, 0x1_8002L).u8(4, 1).build());
+        SimControl.setOutput("RFID_GetUSBOperationMode", new Bytes.Builder(8).u32(0, 0x1_8002L).u8(4, 2).build());
         USB_OPERATION_MODE_SETTINGS got = new USB_OPERATION_MODE_SETTINGS();
+        got.allowLLRPConnectionOverride = true;
         assertEquals(0, ORLANatives.RFID_GetUSBOperationMode(reader, got));
         assertEquals((short) 0x8002, got.enumMode, "low 16 bits of the mode, sign-extended");
-        assertTrue(got.allowLLRPConnectionOverride);
+        assertFalse(got.allowLLRPConnectionOverride, "the byte 2 as it stands: the virtual machine keeps bit 0");
         assertSame(USB_OPERATION_MODE.USB_OPERATION_MODE_NETWORK, got.mode, "the enum object is not written");
     }
 
