@@ -78,8 +78,6 @@ class AccessOperationTest extends TagAccessTest {
                 6, readParams(), null, null, t, null, null, utc));
         assertEquals("30001234", tag.tagID);
         assertEquals("AB0CDE", tag.memoryBankData);
-        assertEquals(0x7FFE, tag.seenTime.utcTime.firstSeenTimeStamp.Year, "UTC form asked for");
-        assertEquals(77, tag.seenTime.upTime.firstSeenTimeStamp);
 
         TAG_DATA upTime = markedTag();
         int handle = connect();

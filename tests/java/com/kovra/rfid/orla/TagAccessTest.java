@@ -44,9 +44,10 @@ abstract class TagAccessTest extends NativeTest {
 
     /**
      * Runs an operation that returns a tag three times on a connected reader:
-     * with a scripted result tag on success, with the same result on failure
-     * (the simulator still writes it), and without a tag object. Returns the
-     * Java tag of the successful run.
+     * with a scripted result tag on success (its seen times in the UTC form
+     * asked for), with the same result on failure (the simulator still
+     * writes it), and without a tag object. Returns the Java tag of the
+     * successful run.
      */
     static TAG_DATA checkResultTag(String fn, byte[] result, ResultTagOperation op) {
         int handle = connect();
@@ -58,6 +59,8 @@ abstract class TagAccessTest extends NativeTest {
         assertArrayEquals(new long[] {handle, call.arg(6)}, SimControl.args("RFID_DeallocateTag", -1),
                 "the same record is given back");
         assertEquals(0, SimReader.liveTagRecords(handle));
+        assertEquals(0x7FFE, tag.seenTime.utcTime.firstSeenTimeStamp.Year, fn + ": the UTC form");
+        assertEquals(77, tag.seenTime.upTime.firstSeenTimeStamp, fn + ": not the up-time form");
 
         SimControl.setStatus(fn, FAILED);
         TAG_DATA untouched = markedTag();
