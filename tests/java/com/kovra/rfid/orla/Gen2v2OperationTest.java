@@ -66,7 +66,6 @@ class Gen2v2OperationTest extends TagAccessTest {
 
     private static UNTRACEABLE_PARAMS untraceable() {
         UNTRACEABLE_PARAMS p = new UNTRACEABLE_PARAMS();
-        p.assertU = true;
         p.hideEPC = true;
         p.EPCLength = 6;
         p.hideTID = TID_HIDE_STATE.HIDE_TID_ALL;
@@ -76,17 +75,20 @@ class Gen2v2OperationTest extends TagAccessTest {
         return p;
     }
 
+    /** The three booleans read (assertU, hideEPC, hideUser) = (0, 1, 1), then (1, 0, 1): none stands for another. */
     @Test
     void untraceableSendsItsZeroedRecord() {
         ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, twoAntennas(), null, null, null, true);
-        assertArrayEquals(new long[] {1, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
+        assertArrayEquals(new long[] {0, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
                 fields(assertSent(Call.last("RFID_Untraceable"), 24),
                         0, 1, 1, 1, 2, 1, 3, 1, 4, 4, 8, 1, 9, 1, 10, 1, 11, 1, 12, 4, 16, 4, 20, 4));
 
-        UNTRACEABLE_PARAMS shown = new UNTRACEABLE_PARAMS();
-        shown.EPCLength = (byte) 0x9F;
-        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, shown, null, null, null, null, null, true);
-        assertArrayEquals(new long[] {0, 0, 0x9F, 0, 0}, fields(Call.last("RFID_Untraceable").blob("params"),
+        UNTRACEABLE_PARAMS other = new UNTRACEABLE_PARAMS();
+        other.assertU = true;
+        other.EPCLength = (byte) 0x9F;
+        other.hideUser = true;
+        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, other, null, null, null, null, null, true);
+        assertArrayEquals(new long[] {1, 0, 0x9F, 0, 1}, fields(Call.last("RFID_Untraceable").blob("params"),
                 0, 1, 1, 1, 2, 1, 4, 4, 8, 1));
     }
 
