@@ -26,8 +26,7 @@ class ChipOperationTest extends TagAccessTest {
         protect.accessPassword = PASSWORD;
         assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, twoAntennas()));
         Call call = Call.last("RFID_NXPReadProtect");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
-            call.arg(6)}, "handle, length, no filter, reserved");
+        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
         assertEquals(0x8765_4321L, Bytes.u32(assertSent(call, 4), 0));
 
         NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
@@ -35,6 +34,21 @@ class ChipOperationTest extends TagAccessTest {
         eas.EASState = true;
         ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, twoAntennas());
         assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(assertSent(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
+    }
+
+    @Test
+    void eachOperationPassesItsObjectsOrNulls() {
+        assertObjectsOrNulls("RFID_NXPReadProtect", new NXP_READ_PROTECT_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPReadProtect(h, TAG_ID, 6, (NXP_READ_PROTECT_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPSetEAS", new NXP_SET_EAS_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPSetEAS(h, TAG_ID, 6, (NXP_SET_EAS_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPChangeConfig", new NXP_CHANGE_CONFIG_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, (NXP_CHANGE_CONFIG_PARAMS) p, f, a, t, null, null,
+                        true));
+        assertObjectsOrNulls("RFID_ImpinjQTWrite", new IMPINJ_QT_WRITE_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTWrite(h, TAG_ID, 6, (IMPINJ_QT_WRITE_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_ImpinjQTRead", new IMPINJ_QT_READ_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, (IMPINJ_QT_READ_PARAMS) p, f, a, t, null, null, true));
     }
 
     @Test

@@ -44,8 +44,7 @@ class Gen2v2OperationTest extends TagAccessTest {
         ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, twoAntennas(), null,
                 null, null, true);
         Call call = Call.last("RFID_Authenticate");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6, 0, 0, 0}, new long[] {call.arg(0), call.arg(2), call.arg(4),
-            call.arg(6), call.arg(7)}, "handle, length, no filter, no tag, reserved");
+        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
         assertArrayEquals(new long[] {1, 0, 0xFE, 0, 32, 0, 0, 0x8765_4321L},
                 fields(assertSent(call, 24), 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
         assertArrayEquals(MESSAGE, call.blob("params.pMessage"));
@@ -67,7 +66,6 @@ class Gen2v2OperationTest extends TagAccessTest {
 
     private static UNTRACEABLE_PARAMS untraceable() {
         UNTRACEABLE_PARAMS p = new UNTRACEABLE_PARAMS();
-        p.assertU = true;
         p.hideEPC = true;
         p.EPCLength = 6;
         p.hideTID = TID_HIDE_STATE.HIDE_TID_ALL;
@@ -77,22 +75,25 @@ class Gen2v2OperationTest extends TagAccessTest {
         return p;
     }
 
+    /** The three booleans read (assertU, hideEPC, hideUser) = (0, 1, 1), then (1, 0, 1): none stands for another. */
     @Test
     void untraceableSendsItsZeroedRecord() {
         ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, twoAntennas(), null, null, null, true);
-        assertArrayEquals(new long[] {1, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
+        assertArrayEquals(new long[] {0, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
                 fields(assertSent(Call.last("RFID_Untraceable"), 24),
                         0, 1, 1, 1, 2, 1, 3, 1, 4, 4, 8, 1, 9, 1, 10, 1, 11, 1, 12, 4, 16, 4, 20, 4));
 
-        UNTRACEABLE_PARAMS shown = new UNTRACEABLE_PARAMS();
-        shown.EPCLength = (byte) 0x9F;
-        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, shown, null, null, null, null, null, true);
-        assertArrayEquals(new long[] {0, 0, 0x9F, 0, 0}, fields(Call.last("RFID_Untraceable").blob("params"),
+        UNTRACEABLE_PARAMS other = new UNTRACEABLE_PARAMS();
+        other.assertU = true;
+        other.EPCLength = (byte) 0x9F;
+        other.hideUser = true;
+        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, other, null, null, null, null, null, true);
+        assertArrayEquals(new long[] {1, 0, 0x9F, 0, 1}, fields(Call.last("RFID_Untraceable").blob("params"),
                 0, 1, 1, 1, 2, 1, 4, 4, 8, 1));
     }
 
     @Test
-    void cryptoSendsThreeChallengeWordsOrANullRecord() {
+    void cryptoSendsThreeChallengeWords() {
         CRYPTO_PARAMS p = new CRYPTO_PARAMS();
         p.keyID = (byte) 0x81;
         p.IChallenge = new int[] {-1, 0x1234_5678, 0x8000_0000, 0x5555_5555};
@@ -109,9 +110,17 @@ class Gen2v2OperationTest extends TagAccessTest {
                 "the fourth challenge word is not read");
         assertZero(record, 1, 4);
         assertZero(record, 21, 24);
+    }
 
-        assertEquals(1, ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, null, null, null, null, null, null, true));
-        assertEquals(0L, Call.last("RFID_Crypto").arg(3), "the call runs with a NULL record");
+    /** Crypto alone takes a null parameter object; the other two need theirs. */
+    @Test
+    void eachOperationPassesItsObjectsOrNulls() {
+        assertObjectsOrNulls("RFID_Authenticate", authenticate(8, MESSAGE), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, (AUTHENTICATE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Untraceable", untraceable(), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, (UNTRACEABLE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Crypto", new CRYPTO_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_Crypto(h, TAG_ID, 6, (CRYPTO_PARAMS) p, f, a, t, null, null, true));
     }
 
     @Test

@@ -9,6 +9,7 @@ import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
 import com.kovra.rfid.orla.sim.SimReader;
+import java.util.Arrays;
 
 /** Base of the single tag access tests (Gen2, NXP and Impinj, and Gen2v2 operations): their shared fixtures. */
 abstract class TagAccessTest extends NativeTest {
@@ -43,9 +44,10 @@ abstract class TagAccessTest extends NativeTest {
 
     /**
      * Runs an operation that returns a tag three times on a connected reader:
-     * with a scripted result tag on success, with the same result on failure
-     * (the simulator still writes it), and without a tag object. Returns the
-     * Java tag of the successful run.
+     * with a scripted result tag on success (its seen times in the UTC form
+     * asked for), with the same result on failure (the simulator still
+     * writes it), and without a tag object. Returns the Java tag of the
+     * successful run.
      */
     static TAG_DATA checkResultTag(String fn, byte[] result, ResultTagOperation op) {
         int handle = connect();
@@ -57,6 +59,8 @@ abstract class TagAccessTest extends NativeTest {
         assertArrayEquals(new long[] {handle, call.arg(6)}, SimControl.args("RFID_DeallocateTag", -1),
                 "the same record is given back");
         assertEquals(0, SimReader.liveTagRecords(handle));
+        assertEquals(0x7FFE, tag.seenTime.utcTime.firstSeenTimeStamp.Year, fn + ": the UTC form");
+        assertEquals(77, tag.seenTime.upTime.firstSeenTimeStamp, fn + ": not the up-time form");
 
         SimControl.setStatus(fn, FAILED);
         TAG_DATA untouched = markedTag();
@@ -72,6 +76,37 @@ abstract class TagAccessTest extends NativeTest {
         assertArrayEquals(new long[] {2, 2}, new long[] {SimControl.count("RFID_AllocateTag"),
             SimControl.count("RFID_DeallocateTag")});
         return tag;
+    }
+
+    /** An operation with a tag ID, called with the given parameters, filter, antennas and tag (each may be null). */
+    interface ObjectsOperation {
+        int run(int handle, Object params, ACCESS_FILTER filter, ANTENNA_INFO antennas, TAG_DATA tag);
+    }
+
+    /**
+     * Runs op on a connected reader with an object in each place, then with null in each (but the parameters,
+     * where the operation requires them): every pointer after the tag ID length is set in the first call, the
+     * antennas in their own place, and NULL in the second; the reserved last one is NULL in both.
+     */
+    static void assertObjectsOrNulls(String fn, Object params, boolean paramsOptional, ObjectsOperation op) {
+        int handle = connect();
+        op.run(handle, params, new ACCESS_FILTER(), twoAntennas(), new TAG_DATA());
+        Call call = Call.last(fn);
+        long[] args = call.args();
+        for (int i = 3; i < args.length - 1; i++) {
+            assertNotEquals(0L, args[i], fn + ": argument " + i);
+        }
+        assertEquals(0L, args[args.length - 1], fn + ": reserved");
+        assertTwoAntennas(call);
+
+        op.run(handle, paramsOptional ? null : params, null, null, null);
+        args = Call.last(fn).args();
+        int from = paramsOptional ? 3 : 4;
+        assertArrayEquals(new long[args.length - from], Arrays.copyOfRange(args, from, args.length), fn + ": NULLs");
+    }
+
+    static void assertObjectsOrNulls(String fn, Object params, ObjectsOperation op) {
+        assertObjectsOrNulls(fn, params, true, op);
     }
 
     /** A tag-returning operation with a tag ID, called as op(handle, tag, utcTime). */
