@@ -35,7 +35,7 @@ constexpr size_t kFilter = 40;
 constexpr size_t kRssiRange = 8;  // of a larger block whose rest is never set
 constexpr size_t kTriggerInfo = 64;
 constexpr size_t kTagEventReportInfo = 32;
-constexpr size_t kReportTriggers = 4;
+constexpr size_t kReportTriggers = 40;  // the block every caller provides, zeroed
 constexpr size_t kExtraTriggers = 256;
 constexpr size_t kStartTrigger = 24;
 constexpr size_t kExtraStartCount = 7;
@@ -118,7 +118,7 @@ bool captureFilter(Sink& rec, const std::string& name, const void* p) {
 
 // TRIGGER_INFO (64 bytes): "<name>.startTrigger.startTime" (what the start
 // type makes meaningful), "<name>.tagEventReportInfo" (32 bytes, pointer at
-// 40), "<name>.reportTriggers" (4 bytes, at 48), "<name>.extraTriggers"
+// 40), "<name>.reportTriggers" (40 bytes, at 48), "<name>.extraTriggers"
 // (256 bytes, at 56) and "<name>.extraTriggers.start[i].startTime".
 template <class Sink>
 bool captureTriggerInfo(Sink& rec, const std::string& name, const void* p) {

@@ -98,16 +98,6 @@ void captureOperation(ApiCall& call, const void* operation) {
   if (call.captured("operation.params").faulted) call.require(nullptr);
 }
 
-// The whole report block behind the trigger's pointer at 48: its caller
-// hands it over zeroed, 40 bytes, while the shared trigger capture keeps
-// only the first field ("<trigger>.reportTriggers").
-constexpr size_t kReportTriggersAt = 48;
-constexpr size_t kReportBlockBytes = 40;
-
-void captureReportBlock(ApiCall& call, const std::string& trigger) {
-  call.blob(trigger + ".reportBlock", pointerAt(call.captured(trigger), kReportTriggersAt), kReportBlockBytes);
-}
-
 int32_t answerWithTag(ApiCall& call, void* tag) {
   call.outputsIfScripted({{tag, kTagDataBytes}});
   return call.finish();
@@ -396,7 +386,6 @@ int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, 
   sim::captureFilter(call, "accessFilter", filter);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   sim::captureTriggerInfo(call, "triggerInfo", trigger);
-  sim::captureReportBlock(call, "triggerInfo");
   return call.finish();
 }
 

@@ -238,7 +238,7 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(8, fields(call.blob("antennaInfo.antennaList"), 14, 2)[0], "room for 8 antennas");
         assertArrayEquals(new long[] {1, 1, 1500, 3, 0}, fields(call.blob("triggerInfo"), 0, 4, 24, 4, 28, 4, 36, 4, 40, 8));
         assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0], "its own time block");
-        assertArrayEquals(new byte[40], call.blob("triggerInfo.reportBlock"), "the report block starts zeroed");
+        assertArrayEquals(new byte[40], call.blob("triggerInfo.reportTriggers"), "the report block starts zeroed");
         assertEquals(0L, call.arg(4), "the reserved argument is NULL");
     }
 

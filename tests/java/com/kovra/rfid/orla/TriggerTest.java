@@ -111,7 +111,7 @@ class TriggerTest extends NativeTest {
         assertArrayEquals(new byte[6], SimControl.read(pointers[0], 6), "never freed, so still readable");
         assertArrayEquals(new byte[16], SimControl.read(pointers[1], 16));
         assertNull(call.blob("triggerInfo.tagEventReportInfo"), "no tag event reporting: NULL");
-        assertArrayEquals(new byte[4], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
+        assertArrayEquals(new byte[40], call.blob("triggerInfo.reportTriggers"), "no report triggers: zeroed storage");
         assertArrayEquals(new byte[256], call.blob("triggerInfo.extraTriggers"));
 
         TRIGGER_INFO noArrays = new TRIGGER_INFO();
