@@ -98,6 +98,17 @@ void captureOperation(ApiCall& call, const void* operation) {
   if (call.captured("operation.params").faulted) call.require(nullptr);
 }
 
+// What a tag operation with an access filter is sent: the tag ID bytes, the
+// parameter record with the buffer it points to, the filter and the
+// antennas.
+void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLength, const void* params,
+                         ParamsLayout layout, const void* filter, const void* antenna) {
+  call.blob("tagID", tagID, tagIDLength);
+  captureParams(call, "params", params, layout);
+  captureFilter(call, "accessFilter", filter);
+  captureAntennaInfo(call, "antennaInfo", antenna);
+}
+
 int32_t answerWithTag(ApiCall& call, void* tag) {
   call.outputsIfScripted({{tag, kTagDataBytes}});
   return call.finish();
@@ -151,80 +162,56 @@ extern "C" {
 int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kReadParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
   return sim::answerRead(call, handle, tag);
 }
 
 int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kPermalockParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                              void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kQtReadParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kAuthenticateParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                          void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kUntraceableParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kReadBufferParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                     void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kCryptoParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -234,90 +221,63 @@ int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, 
 int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                    void* antenna, void* reserved) {
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kBlockEraseParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kLockParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kKillParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* reserved) {
   ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kRecommissionParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* reserved) {
   ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                        void* antenna, void* reserved) {
   ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kNxpParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                            void* antenna, void* reserved) {
   ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kQtWriteParams);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
   return call.finish();
 }
 
