@@ -16,85 +16,22 @@
 namespace sim {
 namespace {
 
-constexpr size_t kTagDataBytes = 192;
-constexpr size_t kAccessOperationBytes = 48;
-constexpr size_t kOperationParamsAt = 8;
-
-// A buffer a parameter record points to: the pointer's offset, the offset
-// of its 16-bit length, and how many length units make a byte.
-struct Pointee {
-  const char* name;
-  size_t pointerAt;
-  size_t lengthAt;
-  unsigned unitsPerByte;
-};
-
-constexpr Pointee kWriteData{"writeData", 8, 16, 1};
-constexpr Pointee kFieldWriteData{"writeData", 0, 8, 1};
-constexpr Pointee kPermalockMask{"mask", 16, 24, 1};
-constexpr Pointee kMessage{"pMessage", 8, 4, 8};  // length in bits
-
-struct ParamsLayout {
-  size_t bytes;
-  const Pointee* pointee;
-};
-
-constexpr ParamsLayout kReadParams{48, nullptr};
-constexpr ParamsLayout kWriteParams{56, &kWriteData};
-constexpr ParamsLayout kBlockEraseParams{48, nullptr};
-constexpr ParamsLayout kLockParams{56, nullptr};
-constexpr ParamsLayout kKillParams{40, nullptr};
-constexpr ParamsLayout kPermalockParams{64, &kPermalockMask};
-constexpr ParamsLayout kRecommissionParams{40, nullptr};
-constexpr ParamsLayout kWriteFieldParams{48, &kFieldWriteData};
-constexpr ParamsLayout kNxpParams{40, nullptr};
-constexpr ParamsLayout kQtReadParams{40, nullptr};
-constexpr ParamsLayout kQtWriteParams{80, nullptr};
-constexpr ParamsLayout kAuthenticateParams{56, &kMessage};
-constexpr ParamsLayout kUntraceableParams{56, nullptr};
-constexpr ParamsLayout kReadBufferParams{40, nullptr};
-constexpr ParamsLayout kCryptoParams{64, nullptr};
-
-void captureParams(ApiCall& call, const std::string& name, const void* params, ParamsLayout layout) {
-  call.blob(name, params, layout.bytes);
-  if (layout.pointee == nullptr) return;
-  const Blob& record = call.captured(name);
-  const Pointee& p = *layout.pointee;
-  call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
-}
-
-// The parameter record of an access-sequence operation, by operation code.
-ParamsLayout operationLayout(uint32_t opCode) {
-  switch (opCode) {
-    case 0: return kReadParams;
-    case 1: return kWriteParams;
-    case 2: return kLockParams;
-    case 3: return kKillParams;
-    case 4: return kWriteParams;
-    case 5: return kBlockEraseParams;
-    case 6: return kRecommissionParams;
-    case 7: return kPermalockParams;
-    case 8: case 9: case 10: return kNxpParams;
-    case 20: return kQtWriteParams;
-    case 21: return kQtReadParams;
-    case 22: return kNxpParams;
-    default: return {0, nullptr};
-  }
+// A parameter record with the buffer it points to (record/record_layouts.h).
+void captureParams(ApiCall& call, const std::string& name, const void* params, const layout::Record& record) {
+  layout::captureRecord(call, name, params, record);
 }
 
 // An operation that is NULL or cannot be read, or whose parameter record
 // cannot be read, is refused with kInvalidParam.
 void captureOperation(ApiCall& call, const void* operation) {
-  call.blob("operation", operation, kAccessOperationBytes);
+  call.blob("operation", operation, layout::AccessOperation().size);
   call.require(operation);
   const Blob& record = call.captured("operation");
   if (!record.present || record.faulted) {
     call.require(nullptr);
     return;
   }
-  ParamsLayout layout = operationLayout(fieldAt<uint32_t>(record, 0));
-  if (layout.bytes == 0) return;
-  captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  layout::capturePointees(call, "operation", "operation", 0, layout::AccessOperation());
   if (call.captured("operation.params").faulted) call.require(nullptr);
 }
 
@@ -102,15 +39,15 @@ void captureOperation(ApiCall& call, const void* operation) {
 // parameter record with the buffer it points to, the filter and the
 // antennas.
 void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLength, const void* params,
-                         ParamsLayout layout, const void* filter, const void* antenna) {
+                         const layout::Record& paramsRecord, const void* filter, const void* antenna) {
   call.blob("tagID", tagID, tagIDLength);
-  captureParams(call, "params", params, layout);
+  captureParams(call, "params", params, paramsRecord);
   captureFilter(call, "accessFilter", filter);
   captureAntennaInfo(call, "antennaInfo", antenna);
 }
 
 int32_t answerWithTag(ApiCall& call, void* tag) {
-  call.outputsIfScripted({{tag, kTagDataBytes}});
+  call.outputsIfScripted({{tag, layout::TagData().size}});
   return call.finish();
 }
 
@@ -162,56 +99,56 @@ extern "C" {
 int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::ReadAccessParams(), filter, antenna);
   return sim::answerRead(call, handle, tag);
 }
 
 int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::BlockPermalockAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                              void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::QtReadAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::AuthenticateAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                          void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::UntraceableAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::ReadBufferAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
 int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                     void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::CryptoAccessParams(), filter, antenna);
   return sim::answerWithTag(call, tag);
 }
 
@@ -221,63 +158,63 @@ int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, 
 int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                    void* antenna, void* reserved) {
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::WriteAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::WriteAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::BlockEraseAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::LockAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::KillAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* reserved) {
   ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::RecommissionAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* reserved) {
   ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                        void* antenna, void* reserved) {
   ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return call.finish();
 }
 
 int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                            void* antenna, void* reserved) {
   ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::QtWriteAccessParams(), filter, antenna);
   return call.finish();
 }
 
@@ -288,7 +225,7 @@ int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t 
                                  void* reserved) {
   ApiCall call("RFID_WriteAccessPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
@@ -297,7 +234,7 @@ int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t ta
                                void* reserved) {
   ApiCall call("RFID_WriteKillPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
@@ -306,7 +243,7 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
                         void* reserved) {
   ApiCall call("RFID_WriteTagID", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }
@@ -314,7 +251,7 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
 // The one chip command without a tag ID.
 int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, void* reserved) {
   ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
-  sim::captureParams(call, "params", params, sim::kNxpParams);
+  sim::captureParams(call, "params", params, sim::layout::NxpAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return call.finish();
 }

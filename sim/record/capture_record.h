@@ -62,7 +62,7 @@ template <class Sink>
 bool captureRecord(Sink& sink, const std::string& name, const void* p, const Record& record) {
   bool ok = captureBytes(sink, name, p, record.size);
   if (p == nullptr) return ok;
-  return capturePointees(sink, name, name, 0, record);
+  return capturePointees(sink, name, name, 0, record) && ok;
 }
 
 }  // namespace sim::layout
