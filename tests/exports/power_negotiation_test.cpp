@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "journal.h"
-#include "session.h"
-#include "status.h"
+#include "record/journal.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 namespace {
 
