@@ -91,8 +91,20 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_reset(JNIEnv*, jc
   sim::resetSimulator();
 }
 
-JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_keepJournal(JNIEnv*, jclass, jboolean on) {
-  sim::keepJournal(on != JNI_FALSE);
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_record(JNIEnv*, jclass, jboolean on) {
+  sim::record(on != JNI_FALSE);
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimControl_recordCapacity(JNIEnv* env, jclass, jint entries) {
+  if (entries < 0) {
+    throwIllegalArgument(env, "record capacity " + std::to_string(entries) + " is negative");
+    return;
+  }
+  sim::setRecordCapacity(static_cast<size_t>(entries));
+}
+
+JNIEXPORT jlong JNICALL Java_com_kovra_rfid_orla_sim_SimControl_droppedCalls(JNIEnv*, jclass) {
+  return static_cast<jlong>(sim::droppedCalls());
 }
 
 // Does nothing: the cost of a bare JNI call, the floor of every benchmark.

@@ -1,6 +1,8 @@
 #include "record/journal.h"
 
 #include <algorithm>
+#include <atomic>
+#include <cstdlib>
 #include <deque>
 #include <mutex>
 
@@ -22,11 +24,17 @@ struct Scripts {
 
 struct Journal {
   std::mutex mutex;
-  std::vector<Call> calls;
+  // A deque grows by chunks: an append never moves the entries already kept,
+  // so a growing journal does not stall the other callers.
+  std::deque<Call> calls;
   uint64_t nextSeq = 1;
+  size_t capacity = kDefaultRecordCapacity;
+  uint64_t dropped = 0;  // calls past the capacity, not kept
   Scripts scripts;
   std::vector<std::vector<uint8_t>> kept;  // buffers move, their bytes do not
-  bool keeping = true;                      // off: calls still run, none is kept
+  // Off: calls still run and honour scripts, none is kept. Read without the
+  // lock so that a call costs no copy while recording is off.
+  std::atomic<bool> recording{recordSwitch(std::getenv("HALYARD_SIM_RECORD"))};
 };
 
 // Never destroyed: threads of a running inventory may still record while
@@ -35,6 +43,9 @@ Journal& journal() {
   static Journal* instance = new Journal;
   return *instance;
 }
+
+// The environment is read when the library loads, not at the first call.
+[[maybe_unused]] const bool kJournalAtLoad = (journal(), true);
 
 const Blob& absentBlob() {
   static const Blob absent;
@@ -55,7 +66,7 @@ Blob copyBlob(const void* p, size_t n) {
 }
 
 // Position of the call of fn at index (negative: from the end), or -1.
-int64_t positionOf(const std::vector<Call>& calls, const std::string& fn, int64_t index) {
+int64_t positionOf(const std::deque<Call>& calls, const std::string& fn, int64_t index) {
   std::vector<int64_t> positions;
   for (size_t i = 0; i < calls.size(); ++i) {
     if (calls[i].fn == fn) positions.push_back(static_cast<int64_t>(i));
@@ -66,13 +77,19 @@ int64_t positionOf(const std::vector<Call>& calls, const std::string& fn, int64_
   return positions[static_cast<size_t>(index)];
 }
 
-// Appends a copy: the recorder's owner may still read what it captured.
+// Appends a copy (the recorder's owner may still read what it captured),
+// made before taking the lock. Past the capacity the call is only counted.
 void appendCall(const Call& call) {
   Journal& j = journal();
+  if (!j.recording.load(std::memory_order_relaxed)) return;
+  Call entry = call;
   std::lock_guard<std::mutex> lock(j.mutex);
-  if (!j.keeping) return;
-  j.calls.push_back(call);
-  j.calls.back().seq = j.nextSeq++;
+  if (j.calls.size() >= j.capacity) {
+    ++j.dropped;
+    return;
+  }
+  entry.seq = j.nextSeq++;
+  j.calls.push_back(std::move(entry));
 }
 
 }  // namespace
@@ -203,7 +220,7 @@ void setScriptedPointer(const std::string& fn, uint64_t value) {
 std::vector<Call> journalSnapshot() {
   Journal& j = journal();
   std::lock_guard<std::mutex> lock(j.mutex);
-  return j.calls;
+  return std::vector<Call>(j.calls.begin(), j.calls.end());
 }
 
 void resetJournalAndScripts() {
@@ -211,9 +228,9 @@ void resetJournalAndScripts() {
   std::lock_guard<std::mutex> lock(j.mutex);
   j.calls.clear();
   j.nextSeq = 1;
+  j.dropped = 0;
   j.scripts = Scripts();
   j.kept.clear();
-  j.keeping = true;
 }
 
 size_t callCount(const std::string& fn) {
@@ -241,10 +258,28 @@ bool findCall(const std::string& fn, int64_t index, Call* call) {
   return true;
 }
 
-void keepJournal(bool on) {
+bool recordSwitch(const char* value) {
+  return value != nullptr && std::string(value) == "1";
+}
+
+void record(bool on) {
+  journal().recording.store(on);
+}
+
+bool recording() {
+  return journal().recording.load();
+}
+
+void setRecordCapacity(size_t entries) {
   Journal& j = journal();
   std::lock_guard<std::mutex> lock(j.mutex);
-  j.keeping = on;
+  j.capacity = entries;
+}
+
+uint64_t droppedCalls() {
+  Journal& j = journal();
+  std::lock_guard<std::mutex> lock(j.mutex);
+  return j.dropped;
 }
 
 }  // namespace sim

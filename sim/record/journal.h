@@ -1,5 +1,5 @@
-// The simulator's journal: every C API call the simulator receives is
-// recorded with its raw argument values and deep copies of the records it
+// The simulator's journal: while recording is on, every C API call the
+// simulator receives is recorded with its raw argument values and deep copies of the records it
 // was given (taken at call entry, since callers free their buffers right
 // after the call). Tests read the journal and script statuses and outputs
 // through the Java class com.kovra.rfid.orla.sim.SimControl.
@@ -95,10 +95,20 @@ void setScriptedPointer(const std::string& fn, uint64_t value);
 std::vector<Call> journalSnapshot();
 void resetJournalAndScripts();
 
-// Long runs (benchmarks) switch the journal off: calls still capture what
-// their behaviour needs and honour scripts, but no entry is kept. Reset
-// switches it back on.
-void keepJournal(bool on);
+// Recording is off unless switched on, by record(true) or by
+// HALYARD_SIM_RECORD=1 in the environment when the library loads. Off, calls
+// still capture what their behaviour needs and honour scripts, but no entry
+// is kept. On, at most the capacity's entries are kept; later calls are
+// dropped and counted. Reset empties the journal and the dropped count but
+// keeps the switch and the capacity, so a test that switched recording on
+// keeps it across resets.
+constexpr size_t kDefaultRecordCapacity = 1000000;
+void record(bool on);
+bool recording();
+// Whether a value of HALYARD_SIM_RECORD switches recording on: "1" only.
+bool recordSwitch(const char* value);
+void setRecordCapacity(size_t entries);
+uint64_t droppedCalls();
 
 // Queries without copying the whole journal. index counts the calls of fn
 // from 0; a negative index counts back from the last (-1 is the last call).

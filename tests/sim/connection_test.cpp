@@ -31,7 +31,10 @@ namespace {
 
 class ConnectionTest : public ::testing::Test {
  protected:
-  void SetUp() override { sim::resetSimulator(); }
+  void SetUp() override {
+    sim::resetSimulator();
+    sim::record(true);
+  }
   void TearDown() override { sim::resetSimulator(); }
 };
 

@@ -25,7 +25,10 @@ namespace {
 
 class JournalTest : public ::testing::Test {
  protected:
-  void SetUp() override { sim::resetSimulator(); }
+  void SetUp() override {
+    sim::resetSimulator();
+    sim::record(true);
+  }
   void TearDown() override { sim::resetSimulator(); }
 };
 

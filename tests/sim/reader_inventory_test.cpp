@@ -94,6 +94,7 @@ class InventoryTest : public ::testing::Test {
  protected:
   void SetUp() override {
     sim::resetSimulator();
+    sim::record(true);
     ASSERT_EQ(sim::loadPopulation(kTags), "");
     reader = sim::openSession();
   }
