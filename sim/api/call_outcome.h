@@ -2,7 +2,7 @@
 // a status the test scripted wins; otherwise an unknown reader handle is
 // refused. A scripted failure still lets the call write its outputs (for a
 // known reader), but it must change no reader state. Arguments are recorded
-// with raw() of api_call.h.
+// with raw() of record/api_call.h.
 #pragma once
 
 #include <cstdint>

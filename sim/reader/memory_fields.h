@@ -1,7 +1,7 @@
 // Little-endian fields of records in memory the simulator owns (tag records,
 // event data, settings), at fixed byte offsets with memcpy, never through a
 // struct definition shared with the library. Records received from callers
-// are read from their captured copies instead (record_bytes.h).
+// are read from their captured copies instead (record/captured_fields.h).
 #pragma once
 
 #include <cstddef>
