@@ -1,6 +1,6 @@
-#include "api_functions.h"
+#include "record/api_functions.h"
 
-#include "record_layouts.h"
+#include "record/record_layouts.h"
 
 namespace sim::api {
 namespace {

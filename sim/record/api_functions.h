@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "record_layout.h"
+#include "record/record_layout.h"
 
 namespace sim::api {
 

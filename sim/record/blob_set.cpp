@@ -1,6 +1,6 @@
-#include "blob_set.h"
+#include "record/blob_set.h"
 
-#include "safe_memory.h"
+#include "record/safe_memory.h"
 
 namespace sim {
 namespace {

@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "journal.h"
+#include "record/journal.h"
 
 namespace sim {
 

@@ -1,7 +1,7 @@
-#include "call_capture.h"
+#include "record/call_capture.h"
 
-#include "capture_record.h"
-#include "record_bytes.h"
+#include "record/capture_record.h"
+#include "record/captured_fields.h"
 
 namespace sim::api {
 namespace {

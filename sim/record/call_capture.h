@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-#include "api_functions.h"
-#include "blob_set.h"
+#include "record/api_functions.h"
+#include "record/blob_set.h"
 
 namespace sim::api {
 

@@ -14,8 +14,8 @@
 
 #include <string>
 
-#include "journal.h"
-#include "record_layout.h"
+#include "record/journal.h"
+#include "record/record_layout.h"
 
 namespace sim::layout {
 

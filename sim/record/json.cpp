@@ -1,4 +1,4 @@
-#include "json.h"
+#include "record/json.h"
 
 #include <cctype>
 #include <cstdlib>

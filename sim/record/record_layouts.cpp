@@ -1,4 +1,4 @@
-#include "record_layouts.h"
+#include "record/record_layouts.h"
 
 namespace sim::layout {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "record_layout.h"
+#include "record/record_layout.h"
 
 namespace sim::layout {
 

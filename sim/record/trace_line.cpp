@@ -1,4 +1,4 @@
-#include "trace_line.h"
+#include "record/trace_line.h"
 
 #include <cinttypes>
 #include <cstdio>

@@ -20,10 +20,10 @@
 #include <string>
 #include <vector>
 
-#include "api_functions.h"
-#include "call_capture.h"
-#include "blob_set.h"
-#include "json.h"
+#include "record/api_functions.h"
+#include "record/call_capture.h"
+#include "record/blob_set.h"
+#include "record/json.h"
 
 namespace sim::trace {
 

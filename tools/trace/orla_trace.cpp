@@ -9,8 +9,8 @@
 #include <iostream>
 #include <string>
 
-#include "api_functions.h"
-#include "json.h"
+#include "record/api_functions.h"
+#include "record/json.h"
 
 namespace {
 

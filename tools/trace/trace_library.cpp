@@ -21,9 +21,9 @@
 #include <mutex>
 #include <string>
 
-#include "api_functions.h"
-#include "call_capture.h"
-#include "trace_line.h"
+#include "record/api_functions.h"
+#include "record/call_capture.h"
+#include "record/trace_line.h"
 
 namespace {
 
