@@ -91,13 +91,21 @@ void WriteLine(int fd, std::string line) {
 }
 
 // The real function, looked up once; nullptr (said once) when missing.
-Forward Resolve(const FunctionSpec& fn, std::atomic<Forward>* cache, void* self) {
+// Whether code lies in this library (the target must not be the tracer itself).
+bool IsOurs(const void* code) {
+  Dl_info theirs{};
+  Dl_info ours{};
+  return dladdr(code, &theirs) != 0 && dladdr(reinterpret_cast<const void*>(&Say), &ours) != 0 &&
+         theirs.dli_fbase == ours.dli_fbase;
+}
+
+Forward Resolve(const FunctionSpec& fn, std::atomic<Forward>* cache) {
   Forward real = cache->load(std::memory_order_acquire);
   if (real != nullptr) return real;
   Tracer& t = tracer();
   if (t.target == nullptr) return nullptr;
   real = reinterpret_cast<Forward>(dlsym(t.target, fn.name));
-  if (real == nullptr || reinterpret_cast<void*>(real) == self) {
+  if (real == nullptr || IsOurs(reinterpret_cast<void*>(real))) {
     static std::once_flag said[256];
     std::call_once(said[(&fn - sim::api::Functions().data()) & 255], [&] {
       Say(std::string("the reader library has no function ") + fn.name +
@@ -109,8 +117,8 @@ Forward Resolve(const FunctionSpec& fn, std::atomic<Forward>* cache, void* self)
   return real;
 }
 
-uint64_t Call(const FunctionSpec& fn, std::atomic<Forward>* cache, void* self, const uint64_t (&a)[8]) {
-  Forward real = Resolve(fn, cache, self);
+uint64_t Call(const FunctionSpec& fn, std::atomic<Forward>* cache, const uint64_t (&a)[8]) {
+  Forward real = Resolve(fn, cache);
   Tracer& t = tracer();
   sim::trace::Entry entry;
   const bool tracing = t.fd >= 0;
@@ -153,7 +161,7 @@ const FunctionSpec& Spec(const char* name) {
                                                                    uint64_t a6, uint64_t a7) {                \
     static const FunctionSpec& fn = Spec(#name);                                                              \
     static std::atomic<Forward> real{nullptr};                                                                \
-    return Call(fn, &real, reinterpret_cast<void*>(&name), {a0, a1, a2, a3, a4, a5, a6, a7});                 \
+    return Call(fn, &real, {a0, a1, a2, a3, a4, a5, a6, a7});                 \
   }
 
 TRACED(RFID_AcceptConnection)
