@@ -120,6 +120,9 @@ std::string BlobDifference(const std::string& name, const Blob& got, const Blob&
   for (size_t i = 0; i < n; ++i) {
     const Span* span = SpanAt(spans, name, i);
     if (span != nullptr && span->pointer) continue;
+    // Padding and bytes the library leaves as it found them (what no field
+    // of a described record covers) are not the library's to repeat.
+    if (span == nullptr && spans.count(name) != 0) continue;
     if (i < got.bytes.size() && i < traced.bytes.size() && got.bytes[i] == traced.bytes[i]) continue;
     std::string where = name + " byte " + std::to_string(i);
     if (span != nullptr) where += " (field " + span->path + ")";
@@ -132,6 +135,29 @@ std::string BlobDifference(const std::string& name, const Blob& got, const Blob&
 bool HandedOut(const ArgSpec& arg) {
   return std::strcmp(arg.name, "handle") == 0 || std::strcmp(arg.name, "event") == 0 ||
          std::strcmp(arg.name, "passThrough") == 0;
+}
+
+// A wide string is compared as text: up to its terminator, however much of
+// the buffer behind it was captured.
+bool IsWideArg(const FunctionSpec& fn, const std::string& name) {
+  for (const ArgSpec& arg : fn.args) {
+    if (arg.kind == Arg::Wide && name == arg.name) return true;
+  }
+  return false;
+}
+
+Blob WideText(Blob blob) {
+  for (size_t i = 0; i + 4 <= blob.bytes.size(); i += 4) {
+    if (layout::UnsignedAt(blob.bytes, i, 4) == 0) {
+      blob.bytes.resize(i);
+      break;
+    }
+  }
+  return blob;
+}
+
+bool operator!=(const Blob& a, const Blob& b) {
+  return a.present != b.present || a.faulted != b.faulted || a.bytes != b.bytes;
 }
 
 std::string Difference(const Call& call, const TracedCall& traced) {
@@ -152,6 +178,10 @@ std::string Difference(const Call& call, const TracedCall& traced) {
   for (const auto& [name, blob] : traced.in) {
     auto got = call.blobs.find(name);
     if (got == call.blobs.end()) continue;  // not captured by the simulator
+    if (IsWideArg(*fn, name)) {
+      if (WideText(got->second) != WideText(blob)) return name + " differs from the traced text";
+      continue;
+    }
     std::string difference = BlobDifference(name, got->second, blob, spans);
     if (!difference.empty()) return difference;
   }
