@@ -13,8 +13,6 @@
 #include <cstring>
 #include <cwchar>
 
-#include "bridge/pinned_array.h"
-
 inline jobject getJobjectFromJobject(JNIEnv* env, jobject object, const char* name, const char* signature) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, signature);
@@ -82,8 +80,9 @@ inline void getShortArrayInJobject(JNIEnv* env, jobject object, const char* name
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "[S");
   auto array = static_cast<jshortArray>(env->GetObjectField(object, field));
-  orla::PinnedArray<jshortArray> elements(env, array);
-  if (count > 0) std::memcpy(destination, elements.data(), sizeof(jshort) * static_cast<size_t>(count));
+  jshort* elements = env->GetShortArrayElements(array, nullptr);
+  if (count > 0) std::memcpy(destination, elements, sizeof(jshort) * static_cast<size_t>(count));
+  env->ReleaseShortArrayElements(array, elements, 0);
 }
 
 // As getShortArrayInJobject, for a byte[] field.
@@ -92,8 +91,9 @@ inline void getByteArrayInJobject(JNIEnv* env, jobject object, const char* name,
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "[B");
   auto array = static_cast<jbyteArray>(env->GetObjectField(object, field));
-  orla::PinnedArray<jbyteArray> elements(env, array);
-  if (count > 0) std::memcpy(destination, elements.data(), static_cast<size_t>(count));
+  jbyte* elements = env->GetByteArrayElements(array, nullptr);
+  if (count > 0) std::memcpy(destination, elements, static_cast<size_t>(count));
+  env->ReleaseByteArrayElements(array, elements, 0);
 }
 
 // Stores a wide string in a String field, converted under the process's
