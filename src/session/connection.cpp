@@ -35,8 +35,8 @@ SEC_CONNECTION_INFO* newSecConnectionInfo(JNIEnv* env, jobject connInfo) {
   if (secure == nullptr || !getBoolFromJobject(env, secure, "secureMode")) return nullptr;
 
   auto* record = new SEC_CONNECTION_INFO();
-  record->secureMode = getCBoolFromJobject(env, secure, "secureMode");
-  record->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
+  record->secureMode = toCBool(getBoolFromJobject(env, secure, "secureMode"));
+  record->validatePeerCert = toCBool(getBoolFromJobject(env, secure, "validatePeerCert"));
   copySizedBuffer(env, secure, "sizeCertBuff", "clientCertBuff", record->sizeCertBuff, record->clientCertBuff);
   copySizedBuffer(env, secure, "sizeKeyBuff", "clientKeyBuff", record->sizeKeyBuff, record->clientKeyBuff);
   copySizedBuffer(env, secure, "sizePhraseBuff", "phraseBuff", record->sizePhraseBuff, record->phraseBuff);

@@ -49,7 +49,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
                                                                                          jint readerHandle,
                                                                                          jobject config) {
   LLRP_CONNECTION_CONFIG record = {};
-  record.isClient = getCBoolFromJobject(env, config, "isClient");
+  record.isClient = toCBool(getBoolFromJobject(env, config, "isClient"));
   jstring host = getStringFromJobject(env, config, "hostServerIP");
   if (host != nullptr) {
     // Fetched once and deliberately never released, as login does.
@@ -62,8 +62,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
   if (getBoolFromJobject(env, secure, "secureMode")) {
     // Deliberately never freed: the secure record outlives this call.
     record.pSecureModeConfig = new SEC_LLRP_CONFIG();
-    record.pSecureModeConfig->secureMode = getCBoolFromJobject(env, secure, "secureMode");
-    record.pSecureModeConfig->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
+    record.pSecureModeConfig->secureMode = toCBool(getBoolFromJobject(env, secure, "secureMode"));
+    record.pSecureModeConfig->validatePeerCert = toCBool(getBoolFromJobject(env, secure, "validatePeerCert"));
   }
   return RFID_SetLLRPConnectionConfigW(static_cast<READER_HANDLE>(readerHandle), &record);
 }

@@ -41,10 +41,10 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
       static_cast<void>(env->GetStringUTFChars(value, nullptr));
       JavaToWSZ(env, value, field.text);
     }
-    record->forceLogin = getCBoolFromJobject(env, loginInfo, "forceLogin");
+    record->forceLogin = toCBool(getBoolFromJobject(env, loginInfo, "forceLogin"));
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
   }
-  const uint32_t kind = ordinalOf(env, readerType);
+  const uint32_t kind = getEnumValueFromJobject(env, readerType, 0);
 
   READER_HANDLE slot = 0;
   const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, toCBool(flag), nullptr);
