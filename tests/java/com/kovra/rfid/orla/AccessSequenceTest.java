@@ -17,7 +17,6 @@ class AccessSequenceTest extends NativeTest {
     private static final String ADD = "RFID_AddOperationToAccessSequence";
     /** No such reader: the simulator answers only what a test scripts. */
     private static final int NO_READER = 77;
-    private static final int NOT_FOUND = 6;
 
     private static ACCESS_OPERATION operation(ACCESS_OPERATION_CODE code) {
         ACCESS_OPERATION op = new ACCESS_OPERATION();
@@ -240,24 +239,5 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0], "its own time block");
         assertArrayEquals(new byte[40], call.blob("triggerInfo.reportTriggers"), "the report block starts zeroed");
         assertEquals(0L, call.arg(4), "the reserved argument is NULL");
-    }
-
-    @Test
-    void aSimulatedReaderNumbersTheOperationsOfItsSequence() {
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_InitializeAccessSequence(reader));
-        int[] index = {-1};
-        ACCESS_OPERATION read = new ACCESS_OPERATION();
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(0, index[0]);
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(1, index[0]);
-        assertEquals(2, ORLANatives.RFID_AddOperationToAccessSequence(reader, null, index), "no NULL operations");
-
-        assertEquals(0, ORLANatives.RFID_DeleteOperationFromAccessSequence(reader, 0));
-        assertEquals(NOT_FOUND, ORLANatives.RFID_DeleteOperationFromAccessSequence(reader, 0), "deleted already");
-        assertEquals(0, ORLANatives.RFID_DeinitializeAccessSequence(reader));
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(0, index[0], "a new sequence counts from 0");
     }
 }

@@ -24,16 +24,14 @@ class ChipOperationTest extends TagAccessTest {
     void readProtectAndSetEasSendTheirZeroedRecords() {
         NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
         protect.accessPassword = PASSWORD;
-        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, twoAntennas()));
-        Call call = Call.last("RFID_NXPReadProtect");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
-        assertEquals(0x8765_4321L, Bytes.u32(assertSent(call, 4), 0));
+        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, null));
+        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_NXPReadProtect"), 4), 0));
 
         NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
         eas.accessPassword = PASSWORD;
         eas.EASState = true;
-        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, twoAntennas());
-        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(assertSent(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
+        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, null);
+        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(sentParams(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
     }
 
     @Test
@@ -99,9 +97,9 @@ class ChipOperationTest extends TagAccessTest {
         NXP_CHANGE_CONFIG_PARAMS p = new NXP_CHANGE_CONFIG_PARAMS();
         p.accessPassword = PASSWORD;
         p.ChangeConfigWord = (short) 0x8001;
-        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
+        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
         assertArrayEquals(new long[] {0x8765_4321L, 0x8001},
-                fields(assertSent(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
+                fields(sentParams(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
 
         TAG_DATA tag = checkResultTag("RFID_NXPChangeConfig", resultTag(22, qtResult(0xFFFE)), (handle, t, utc) ->
                 ORLANatives.RFID_NXPChangeConfig(handle, TAG_ID, 6, p, null, null, t, null, null, utc));
@@ -114,8 +112,8 @@ class ChipOperationTest extends TagAccessTest {
         p.accessPassword = PASSWORD;
         p.qtPersist = true;
         p.qtData.qtControlData = (short) 0x8000;
-        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
-        byte[] record = assertSent(Call.last("RFID_ImpinjQTWrite"), 10);
+        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, null);
+        byte[] record = sentParams(Call.last("RFID_ImpinjQTWrite"), 10);
         assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000}, fields(record, 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
     }
 
@@ -123,8 +121,8 @@ class ChipOperationTest extends TagAccessTest {
     void qtReadSendsItsPasswordAndReturnsTheControlWord() {
         IMPINJ_QT_READ_PARAMS p = new IMPINJ_QT_READ_PARAMS();
         p.accessPassword = PASSWORD;
-        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, false);
-        assertEquals(0x8765_4321L, Bytes.u32(assertSent(Call.last("RFID_ImpinjQTRead"), 4), 0));
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, null, null, null, null, false);
+        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_ImpinjQTRead"), 4), 0));
 
         TAG_DATA tag = checkResultTag("RFID_ImpinjQTRead", resultTag(21, qtResult(0x8001)), (handle, t, utc) ->
                 ORLANatives.RFID_ImpinjQTRead(handle, TAG_ID, 6, p, null, null, t, null, null, utc));

@@ -41,12 +41,11 @@ class Gen2v2OperationTest extends TagAccessTest {
 
     @Test
     void authenticateSendsItsZeroedRecord() {
-        ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, twoAntennas(), null,
-                null, null, true);
+        ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, null, null, null, null,
+                true);
         Call call = Call.last("RFID_Authenticate");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
         assertArrayEquals(new long[] {1, 0, 0xFE, 0, 32, 0, 0, 0x8765_4321L},
-                fields(assertSent(call, 24), 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
+                fields(sentParams(call, 24), 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
         assertArrayEquals(MESSAGE, call.blob("params.pMessage"));
     }
 
@@ -78,9 +77,9 @@ class Gen2v2OperationTest extends TagAccessTest {
     /** The three booleans read (assertU, hideEPC, hideUser) = (0, 1, 1), then (1, 0, 1): none stands for another. */
     @Test
     void untraceableSendsItsZeroedRecord() {
-        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, twoAntennas(), null, null, null, true);
+        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, null, null, null, null, true);
         assertArrayEquals(new long[] {0, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
-                fields(assertSent(Call.last("RFID_Untraceable"), 24),
+                fields(sentParams(Call.last("RFID_Untraceable"), 24),
                         0, 1, 1, 1, 2, 1, 3, 1, 4, 4, 8, 1, 9, 1, 10, 1, 11, 1, 12, 4, 16, 4, 20, 4));
 
         UNTRACEABLE_PARAMS other = new UNTRACEABLE_PARAMS();
@@ -103,8 +102,8 @@ class Gen2v2OperationTest extends TagAccessTest {
         p.blockCount = 3;
         p.protMode = (byte) 0x80;
         p.accessPassword = PASSWORD;
-        ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
-        byte[] record = assertSent(Call.last("RFID_Crypto"), 28);
+        ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
+        byte[] record = sentParams(Call.last("RFID_Crypto"), 28);
         assertArrayEquals(new long[] {0x81, 0xFFFF_FFFFL, 0x1234_5678, 0x8000_0000L, 1, 2, 0xF0, 3, 0x80,
             0x8765_4321L}, fields(record, 0, 1, 4, 4, 8, 4, 12, 4, 16, 1, 17, 1, 18, 1, 19, 1, 20, 1, 24, 4),
                 "the fourth challenge word is not read");
