@@ -7,14 +7,17 @@ import static org.junit.jupiter.api.Assertions.assertNull;
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
+import java.util.LinkedHashMap;
+import java.util.Map;
 import java.util.function.IntBinaryOperator;
 import org.junit.jupiter.api.Test;
 
 /**
- * Single Gen2 operations on one tag: the tag ID bytes, the parameter
- * records, the access filter and antenna records as the reader received
- * them (read at the reader's offsets from the simulator's copies), the
- * argument order and widths, and the result tag.
+ * Single Gen2 operations on one tag: the parameter records and the access
+ * filter as the reader received them (read at the reader's offsets from the
+ * simulator's copies), the argument order and widths; and, for every tag
+ * operation of the three families, the objects or NULLs passed on and the
+ * result tag.
  */
 class AccessOperationTest extends TagAccessTest {
 
@@ -42,6 +45,7 @@ class AccessOperationTest extends TagAccessTest {
                 "an empty tag ID is an empty buffer, not NULL");
     }
 
+    /** Every single tag operation of the three families; a parameter object is optional but where it is not. */
     @Test
     void eachOperationPassesItsObjectsOrNulls() {
         assertObjectsOrNulls("RFID_Read", new READ_ACCESS_PARAMS(), (h, p, f, a, t) ->
@@ -67,19 +71,56 @@ class AccessOperationTest extends TagAccessTest {
                 ORLANatives.RFID_WriteKillPassword(h, TAG_ID, 6, (WRITE_FIELD_ACCESS_PARAMS) p, a));
         assertObjectsOrNulls("RFID_WriteTagID", new WRITE_FIELD_ACCESS_PARAMS(), (h, p, f, a, t) ->
                 ORLANatives.RFID_WriteTagID(h, TAG_ID, 6, (WRITE_FIELD_ACCESS_PARAMS) p, a));
+        assertObjectsOrNulls("RFID_NXPReadProtect", new NXP_READ_PROTECT_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPReadProtect(h, TAG_ID, 6, (NXP_READ_PROTECT_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPSetEAS", new NXP_SET_EAS_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPSetEAS(h, TAG_ID, 6, (NXP_SET_EAS_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPChangeConfig", new NXP_CHANGE_CONFIG_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, (NXP_CHANGE_CONFIG_PARAMS) p, f, a, t, null, null,
+                        true));
+        assertObjectsOrNulls("RFID_ImpinjQTWrite", new IMPINJ_QT_WRITE_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTWrite(h, TAG_ID, 6, (IMPINJ_QT_WRITE_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_ImpinjQTRead", new IMPINJ_QT_READ_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, (IMPINJ_QT_READ_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Authenticate", new AUTHENTICATE_PARAMS(), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, (AUTHENTICATE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Untraceable", new UNTRACEABLE_PARAMS(), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, (UNTRACEABLE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Crypto", new CRYPTO_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_Crypto(h, TAG_ID, 6, (CRYPTO_PARAMS) p, f, a, t, null, null, true));
     }
 
+    /**
+     * Every operation that returns a tag: written with the UTC form asked for on success only, always given
+     * back. What the result record holds is the tag writer's to convert.
+     */
     @Test
-    void readResultTagReachesJavaOnSuccessOnlyAndIsAlwaysGivenBack() {
-        byte[] result = resultTag(0, new byte[16]);
-        TAG_DATA tag = checkResultTag("RFID_Read", result, (handle, t, utc) -> ORLANatives.RFID_Read(handle, TAG_ID,
-                6, readParams(), null, null, t, null, null, utc));
-        assertEquals("30001234", tag.tagID);
-        assertEquals("AB0CDE", tag.memoryBankData);
+    void eachResultTagReachesJavaOnSuccessOnlyAndIsAlwaysGivenBack() {
+        Map<String, ResultTagOperation> operations = new LinkedHashMap<>();
+        operations.put("RFID_Read", (h, t, utc) ->
+                ORLANatives.RFID_Read(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_BlockPermalock", (h, t, utc) ->
+                ORLANatives.RFID_BlockPermalock(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_NXPChangeConfig", (h, t, utc) ->
+                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_ImpinjQTRead", (h, t, utc) ->
+                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_Authenticate", (h, t, utc) ->
+                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, new AUTHENTICATE_PARAMS(), null, null, t, null, null, utc));
+        operations.put("RFID_Untraceable", (h, t, utc) ->
+                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, new UNTRACEABLE_PARAMS(), null, null, t, null, null, utc));
+        operations.put("RFID_Crypto", (h, t, utc) ->
+                ORLANatives.RFID_Crypto(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        for (Map.Entry<String, ResultTagOperation> operation : operations.entrySet()) {
+            SimControl.reset();
+            TAG_DATA tag = checkResultTag(operation.getKey(), resultTag(0, new byte[16]), operation.getValue());
+            assertEquals("30001234", tag.tagID, operation.getKey());
+        }
 
         TAG_DATA upTime = markedTag();
-        int handle = connect();
-        assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, upTime, null, null, false));
+        byte[] result = resultTag(0, new byte[16]);
+        SimControl.setOutput("RFID_Read", result);
+        assertEquals(0, ORLANatives.RFID_Read(connect(), TAG_ID, 6, null, null, null, upTime, null, null, false));
         assertEquals(Bytes.s64(result, 40), upTime.seenTime.upTime.firstSeenTimeStamp, "up-time form asked for");
         assertEquals(77, upTime.seenTime.utcTime.firstSeenTimeStamp.Year);
     }
@@ -226,13 +267,6 @@ class AccessOperationTest extends TagAccessTest {
         call = Call.last("RFID_BlockPermalock");
         assertArrayEquals(new long[] {0, 0}, fields(call.blob("params"), 4, 1, 24, 2));
         assertArrayEquals(new byte[0], call.blob("params.mask"), "an empty mask, the Java array not read");
-    }
-
-    @Test
-    void blockPermalockResultTagReachesJavaOnSuccessOnly() {
-        TAG_DATA tag = checkResultTag("RFID_BlockPermalock", resultTag(7, new byte[16]), (handle, t, utc) ->
-                ORLANatives.RFID_BlockPermalock(handle, TAG_ID, 6, null, null, null, t, null, null, utc));
-        assertEquals("30001234", tag.tagID);
     }
 
     @Test

@@ -5,16 +5,14 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
-import com.kovra.rfid.orla.sim.SimControl;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.CsvSource;
 
 /**
- * Gen2v2 security commands: their zeroed records, the message of whole
- * bytes that authenticate sends, and the bit-string reply that reaches the
- * Java tag.
+ * Gen2v2 security commands: their zeroed records and the message of whole
+ * bytes that authenticate sends.
  *
  * <p>Read buffer is not called here: it reads its fields through a null
  * object reference, and this virtual machine aborts on that lookup.
@@ -31,12 +29,6 @@ class Gen2v2OperationTest extends TagAccessTest {
         p.pMessage = message;
         p.accessPassword = PASSWORD;
         return p;
-    }
-
-    /** The reply of a bit-string result: 20 bits, so two whole bytes of A1 B2 C3. */
-    private static byte[] bitStringResult(int opCode) {
-        long reply = SimControl.alloc(new byte[] {(byte) 0xA1, (byte) 0xB2, (byte) 0xC3});
-        return resultTag(opCode, new Bytes.Builder(16).u16(0, 20).ptr(8, reply).build());
     }
 
     @Test
@@ -109,32 +101,5 @@ class Gen2v2OperationTest extends TagAccessTest {
                 "the fourth challenge word is not read");
         assertZero(record, 1, 4);
         assertZero(record, 21, 24);
-    }
-
-    /** Crypto alone takes a null parameter object; the other two need theirs. */
-    @Test
-    void eachOperationPassesItsObjectsOrNulls() {
-        assertObjectsOrNulls("RFID_Authenticate", authenticate(8, MESSAGE), false, (h, p, f, a, t) ->
-                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, (AUTHENTICATE_PARAMS) p, f, a, t, null, null, true));
-        assertObjectsOrNulls("RFID_Untraceable", untraceable(), false, (h, p, f, a, t) ->
-                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, (UNTRACEABLE_PARAMS) p, f, a, t, null, null, true));
-        assertObjectsOrNulls("RFID_Crypto", new CRYPTO_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_Crypto(h, TAG_ID, 6, (CRYPTO_PARAMS) p, f, a, t, null, null, true));
-    }
-
-    @Test
-    void eachReplyReachesTheJavaTagOnSuccessOnly() {
-        String[] functions = {"RFID_Authenticate", "RFID_Untraceable", "RFID_Crypto"};
-        int[] opCodes = {23, 26, 24};
-        ResultTagOperation[] operations = {
-            (h, t, utc) -> ORLANatives.RFID_Athenticate(h, TAG_ID, 6, authenticate(8, MESSAGE), null, null, t, null,
-                    null, utc),
-            (h, t, utc) -> ORLANatives.RFID_Untraceable(h, TAG_ID, 6, untraceable(), null, null, t, null, null, utc),
-            (h, t, utc) -> ORLANatives.RFID_Crypto(h, TAG_ID, 6, null, null, null, t, null, null, utc)};
-        for (int i = 0; i < functions.length; i++) {
-            SimControl.reset();
-            TAG_DATA tag = checkResultTag(functions[i], bitStringResult(opCodes[i]), operations[i]);
-            assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult, functions[i]);
-        }
     }
 }
