@@ -10,7 +10,7 @@ import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
-/** USB operation mode, power negotiation and what the simulated radio keeps. */
+/** USB operation mode and power negotiation. */
 class RadioTest extends NativeTest {
 
     @Test
