@@ -6,9 +6,9 @@
 // side. Local references (classes, arrays, strings) are left to the virtual
 // machine, which frees them when the native method returns.
 //
-// The accessors are exported from the library as weak symbols: every file
-// that includes this header emits its own copy, inlined or not, and the
-// linker keeps one.
+// Every file that includes this header emits each accessor out of line as
+// well, inlined or not, as a weak symbol: the linker keeps one copy, which
+// the library exports.
 #pragma once
 
 #include <jni.h>
@@ -17,7 +17,7 @@
 #include <cstring>
 #include <cwchar>
 
-#define ORLA_SHARED_ACCESSOR inline JNIEXPORT __attribute__((used))
+#define ORLA_SHARED_ACCESSOR inline __attribute__((used))
 
 ORLA_SHARED_ACCESSOR jobject getJobjectFromJobject(JNIEnv* env, jobject object, const char* name,
                                                    const char* signature) {
@@ -114,3 +114,5 @@ ORLA_SHARED_ACCESSOR void setStringInJobject(JNIEnv* env, jobject object, const 
   std::wcstombs(text, value, sizeof text);
   env->SetObjectField(object, field, env->NewStringUTF(text));
 }
+
+#undef ORLA_SHARED_ACCESSOR

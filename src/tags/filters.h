@@ -1,7 +1,5 @@
 // Antenna selections, tag patterns, access filters and post filters: Java
-// request objects into the C records that tag operations take. The record
-// converters and clear functions are exported from the library beside the
-// natives (JNIEXPORT); the rest is internal.
+// request objects into the C records that tag operations take.
 #pragma once
 
 #include <jni.h>
@@ -18,23 +16,23 @@ inline size_t patternByteCount(uint16_t bitCount) { return (static_cast<size_t>(
 // Fills an ANTENNA_INFO whose two list pointers already lead to caller
 // arrays large enough for the Java "length": the Java arrays' own lengths
 // are never consulted. A null "antennaOpList" sets antennaOpList to NULL.
-JNIEXPORT void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* record);
+void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* record);
 
 // Fills a filter and the caller's two pattern records it is made to point at.
 // The mask and pattern bytes of each pattern, and the RSSI range block, are
 // allocated here; the clear functions below free the masks and the RSSI
 // range, never the pattern bytes. The two conversions are the same one on
 // two record types; each operation keeps to its own.
-JNIEXPORT void GetAccessFilterInfoFromJobject(JNIEnv* env, jobject filter, ACCESS_FILTER* record,
-                                              TAG_PATTERN* patternA, TAG_PATTERN* patternB);
-JNIEXPORT void GetPostFilterInfoFromJobject(JNIEnv* env, jobject filter, POST_FILTER* record, TAG_PATTERN* patternA,
-                                            TAG_PATTERN* patternB);
+void GetAccessFilterInfoFromJobject(JNIEnv* env, jobject filter, ACCESS_FILTER* record, TAG_PATTERN* patternA,
+                                    TAG_PATTERN* patternB);
+void GetPostFilterInfoFromJobject(JNIEnv* env, jobject filter, POST_FILTER* record, TAG_PATTERN* patternA,
+                                  TAG_PATTERN* patternB);
 
 // Releases what a filter conversion allocated, except the pattern bytes,
 // which stay allocated after every filtered call. Call after the C API call,
 // only when a filter was built.
-JNIEXPORT void clearAccessFilter(ACCESS_FILTER* record);
-JNIEXPORT void clearPostFilter(POST_FILTER* record);
+void clearAccessFilter(ACCESS_FILTER* record);
+void clearPostFilter(POST_FILTER* record);
 
 namespace orla {
 

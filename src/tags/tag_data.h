@@ -1,5 +1,4 @@
-// The tag record of the reader and its Java mirror, the TAG_DATA class. The
-// writer is exported from the library beside the natives (JNIEXPORT).
+// The tag record of the reader and its Java mirror, the TAG_DATA class.
 #pragma once
 
 #include <jni.h>
@@ -12,4 +11,4 @@
 // "seenTime"."upTime"; the other member is left alone. Identifier, memory
 // bank data and bit-string replies are rendered as upper-case hexadecimal
 // of up to 2,047 bytes each.
-JNIEXPORT void SetTagDataToJobject(JNIEnv* env, jobject tagData, TAG_DATA* tag, bool utcTime);
+void SetTagDataToJobject(JNIEnv* env, jobject tagData, TAG_DATA* tag, bool utcTime);

@@ -1,6 +1,5 @@
 // Start, stop and report triggers: a Java TRIGGER_INFO into the C record
-// that inventory, EAS scans and access sequences take. Both converters are
-// exported from the library beside the natives (JNIEXPORT).
+// that inventory, EAS scans and access sequences take.
 #pragma once
 
 #include <jni.h>
@@ -13,14 +12,14 @@
 // report duration (the storage stays as it was when the Java field is
 // null), then the extra triggers with GetExtraTriggerInfoFromJobject.
 // Fields that the Java object does not set keep what the caller put there.
-JNIEXPORT void GetTriggerInfoFromJobject(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record);
+void GetTriggerInfoFromJobject(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record);
 
 // Allocates the zeroed 256-byte block of up to seven further start and stop
 // triggers, points extraTriggers at it and fills it from the Java
 // "extraTriggers"; periodic and time-lapse entries get time records of
 // their own. The block and its time records are not freed by this library:
 // every conversion leaves them allocated.
-JNIEXPORT void GetExtraTriggerInfoFromJobject(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record);
+void GetExtraTriggerInfoFromJobject(JNIEnv* env, jobject triggerInfo, TRIGGER_INFO* record);
 
 // Points a TRIGGER_INFO at the caller's storage before the conversion: the
 // start trigger's two time pointers (the time-lapse TIMEOFDAY at +8 and the
