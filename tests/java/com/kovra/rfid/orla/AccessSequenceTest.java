@@ -78,44 +78,36 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(0x89AB_CDEF, index[0], "the index array is pinned without an operation too");
     }
 
-    /** One operation with a distinct password (above 32 bits) in each parameter field but block permalock's. */
-    private static ACCESS_OPERATION everyPassword() {
-        ACCESS_OPERATION op = new ACCESS_OPERATION();
-        op.readAccessParamsStruct.accessPassword = 0x1_0000_0100L;
-        op.writeAccessParamsStruct.accessPassword = 0x1_0000_0101L;
-        op.lockAccessParamsStruct.accessPassword = 0x1_0000_0102L;
-        op.killAccessParamsStruct.killPassword = 0x1_0000_0103L;
-        op.blockEraseAccessParamsStruct.accessPassword = 0x1_0000_0105L;
-        op.recommissionAccessParamsStruct.killPassword = 0x1_0000_0106L;
-        op.setEASParamsStruct.accessPassword = 0x1_0000_0108L;
-        op.readProtectParamsStruct.accessPassword = 0x1_0000_0109L;
-        op.resetReadProtectParamsStruct.accessPassword = 0x1_0000_010AL;
-        op.QTWriteParamsStruct.accessPassword = 0x1_0000_0114L;
-        op.QTReadParamsStruct.accessPassword = 0x1_0000_0115L;
-        op.nxpChangeConfigParamsStruct.accessPassword = 0x1_0000_0116L;
-        return op;
-    }
-
     /**
      * Each code fills a record of its own size from its own field (block write from the write parameters), and
      * the zeroed ones keep their reserved tail at zero; the fields themselves are filled as for the single
      * operations. Read, erase, lock and kill records keep what the heap gave them.
      */
     @Test
-    void eachCodeFillsItsOwnRecordFromItsOwnField() {
-        // code, record size, password offset, password, first byte of the zeroed tail (-1: not zeroed)
-        int[][] rows = {{0, 48, 8, 0x100, -1}, {1, 56, 20, 0x101, 24}, {2, 56, 20, 0x102, -1}, {3, 40, 0, 0x103, -1},
-            {4, 56, 20, 0x101, 24}, {5, 48, 8, 0x105, -1}, {6, 40, 0, 0x106, 8}, {8, 40, 0, 0x108, 5},
-            {9, 40, 0, 0x109, 4}, {10, 40, 0, 0x10A, 4}, {20, 80, 0, 0x114, 10}, {21, 40, 0, 0x115, 4},
-            {22, 40, 0, 0x116, 6}};
-        ACCESS_OPERATION op = everyPassword();
-        for (int[] row : rows) {
-            op.opCode = ACCESS_OPERATION_CODE.values()[row[0]];
-            byte[] record = params(add(op), row[0]);
-            assertEquals(row[1], record.length, "code " + row[0]);
-            assertEquals(row[3], Bytes.u32(record, row[2]), "code " + row[0]);
-            if (row[4] >= 0) {
-                assertZero(record, row[4], row[1]);
+    void eachCodeFillsItsOwnRecordFromItsOwnField() throws ReflectiveOperationException {
+        // code, its parameter field, record size, password offset, first byte of the zeroed tail (-1: not zeroed)
+        Object[][] rows = {{0, "readAccessParamsStruct", 48, 8, -1}, {1, "writeAccessParamsStruct", 56, 20, 24},
+            {2, "lockAccessParamsStruct", 56, 20, -1}, {3, "killAccessParamsStruct", 40, 0, -1},
+            {4, "writeAccessParamsStruct", 56, 20, 24}, {5, "blockEraseAccessParamsStruct", 48, 8, -1},
+            {6, "recommissionAccessParamsStruct", 40, 0, 8}, {8, "setEASParamsStruct", 40, 0, 5},
+            {9, "readProtectParamsStruct", 40, 0, 4}, {10, "resetReadProtectParamsStruct", 40, 0, 4},
+            {20, "QTWriteParamsStruct", 80, 0, 10}, {21, "QTReadParamsStruct", 40, 0, 4},
+            {22, "nxpChangeConfigParamsStruct", 40, 0, 6}};
+        for (Object[] row : rows) {
+            int code = (int) row[0];
+            int size = (int) row[2];
+            ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.values()[code]);
+            Object params = ACCESS_OPERATION.class.getField((String) row[1]).get(op);
+            for (Field f : params.getClass().getFields()) {
+                if (f.getName().endsWith("Password")) {
+                    f.setLong(params, 0x1_0000_0100L + code);  // only the other fields' passwords stay 0
+                }
+            }
+            byte[] record = params(add(op), code);
+            assertEquals(size, record.length, "code " + code);
+            assertEquals(0x100 + code, Bytes.u32(record, (int) row[3]), "code " + code);
+            if ((int) row[4] >= 0) {
+                assertZero(record, (int) row[4], size);
             }
         }
     }
