@@ -137,33 +137,31 @@ class AccessOperationTest extends TagAccessTest {
         assertEquals(0, SimControl.count("RFID_DeallocateTag"));
     }
 
-    /** The access filter's own fields; its patterns and RSSI range share the post filter's conversion. */
+    /**
+     * The access filter's own record: its fields, and each part hung where it belongs. How patterns and RSSI
+     * ranges are converted is the post filter's conversion, checked with it.
+     */
     @Test
     void accessFilterRecordsSitAtTheirOffsets() {
         ACCESS_FILTER filter = new ACCESS_FILTER();
         filter.structInfo.memoryAllocated = -2;
         filter.structInfo.memoryUsed = 0x0102_0304;
         filter.tagPatternA = new TAG_PATTERN();
-        filter.tagPatternA.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
-        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2, (byte) 0x80, 0x11};
-        filter.tagPatternA.tagPatternBitCount = 12;
+        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2};
+        filter.tagPatternA.tagPatternBitCount = 8;
         filter.tagPatternB = new TAG_PATTERN();
         filter.tagPatternB.tagPattern = new byte[] {0x30};
         filter.tagPatternB.tagPatternBitCount = 8;
         filter.matchPattern = FILTER_MATCH_PATTERN.A_AND_NOTB;
         filter.rssiRangeFilter = new RSSI_RANGE_FILTER();
-        filter.rssiRangeFilter.peakRSSILowerLimit = -70;
-        filter.rssiRangeFilter.peakRSSIUpperLimit = 0x17F;
         filter.rssiRangeFilter.matchRange = MATCH_RANGE.LOWER_THAN_UPPER_LIMIT;
 
         ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, filter, null, null, null, null, true);
         Call call = Call.last("RFID_Read");
         assertArrayEquals(new long[] {0xFFFF_FFFEL, 0x0102_0304, 3}, fields(call.blob("accessFilter"), 0, 4, 4, 4, 24, 4));
-        assertArrayEquals(new long[] {2, 12}, fields(call.blob("accessFilter.tagPatternA"), 0, 4, 16, 2));
-        assertArrayEquals(new byte[] {(byte) 0xE2, (byte) 0x80}, call.blob("accessFilter.tagPatternA.tagPattern"));
+        assertArrayEquals(new byte[] {(byte) 0xE2}, call.blob("accessFilter.tagPatternA.tagPattern"));
         assertArrayEquals(new byte[] {0x30}, call.blob("accessFilter.tagPatternB.tagPattern"));
-        assertArrayEquals(new long[] {0xBA, 0x7F, 3}, fields(call.blob("accessFilter.rssiRangeFilter"), 0, 1, 1, 1, 4, 4),
-                "low byte of each limit, match range");
+        assertEquals(3, Bytes.u32(call.blob("accessFilter.rssiRangeFilter"), 4));
 
         ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, new ACCESS_FILTER(), null, null, null, null, true);
         assertArrayEquals(new long[] {0, 0, 0, 0}, fields(Call.last("RFID_Read").blob("accessFilter"),

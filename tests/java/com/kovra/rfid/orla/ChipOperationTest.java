@@ -16,20 +16,6 @@ import org.junit.jupiter.api.Test;
 class ChipOperationTest extends TagAccessTest {
 
     @Test
-    void readProtectAndSetEasSendTheirZeroedRecords() {
-        NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
-        protect.accessPassword = PASSWORD;
-        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, null));
-        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_NXPReadProtect"), 4), 0));
-
-        NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
-        eas.accessPassword = PASSWORD;
-        eas.EASState = true;
-        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, null);
-        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(sentParams(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
-    }
-
-    @Test
     void tagIdIsConvertedOnlyForLengthsThatPassEachTest() {
         ORLANatives.RFID_NXPSetEAS(NO_READER, null, 0, null, null, null);
         Call call = Call.last("RFID_NXPSetEAS");
@@ -72,32 +58,38 @@ class ChipOperationTest extends TagAccessTest {
         assertNotEquals(0L, call.arg(2), "the antennas all the same");
     }
 
+    /** Each command's zeroed record: the password's low 32 bits, the command's own fields, zeros after them. */
     @Test
-    void changeConfigSendsItsWord() {
-        NXP_CHANGE_CONFIG_PARAMS p = new NXP_CHANGE_CONFIG_PARAMS();
-        p.accessPassword = PASSWORD;
-        p.ChangeConfigWord = (short) 0x8001;
-        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
+    void eachCommandSendsItsZeroedRecord() {
+        NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
+        protect.accessPassword = PASSWORD;
+        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, null));
+        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_NXPReadProtect"), 4), 0));
+
+        NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
+        eas.accessPassword = PASSWORD;
+        eas.EASState = true;
+        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, null);
+        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(sentParams(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
+
+        NXP_CHANGE_CONFIG_PARAMS config = new NXP_CHANGE_CONFIG_PARAMS();
+        config.accessPassword = PASSWORD;
+        config.ChangeConfigWord = (short) 0x8001;
+        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, config, null, null, null, null, null, true);
         assertArrayEquals(new long[] {0x8765_4321L, 0x8001},
                 fields(sentParams(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
-    }
 
-    @Test
-    void qtWriteSendsTheControlWordOfItsQtData() {
-        IMPINJ_QT_WRITE_PARAMS p = new IMPINJ_QT_WRITE_PARAMS();
-        p.accessPassword = PASSWORD;
-        p.qtPersist = true;
-        p.qtData.qtControlData = (short) 0x8000;
-        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, null);
-        byte[] record = sentParams(Call.last("RFID_ImpinjQTWrite"), 10);
-        assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000}, fields(record, 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
-    }
+        IMPINJ_QT_WRITE_PARAMS write = new IMPINJ_QT_WRITE_PARAMS();
+        write.accessPassword = PASSWORD;
+        write.qtPersist = true;
+        write.qtData.qtControlData = (short) 0x8000;
+        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, write, null, null);
+        assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000},
+                fields(sentParams(Call.last("RFID_ImpinjQTWrite"), 10), 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
 
-    @Test
-    void qtReadSendsItsPassword() {
-        IMPINJ_QT_READ_PARAMS p = new IMPINJ_QT_READ_PARAMS();
-        p.accessPassword = PASSWORD;
-        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, null, null, null, null, false);
+        IMPINJ_QT_READ_PARAMS read = new IMPINJ_QT_READ_PARAMS();
+        read.accessPassword = PASSWORD;
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, read, null, null, null, null, null, false);
         assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_ImpinjQTRead"), 4), 0));
     }
 }
