@@ -1,11 +1,11 @@
 # The example programs of java/examples, and a smoke test of each on the
 # simulated reader.
 #
-# Included from the top CMakeLists.txt, this file compiles the examples
-# (target java_examples) and adds one CTest test per run. Each test runs
-# this same file in script mode (cmake -P): it starts the example, requires
-# exit code EXIT, and requires every line that orla_example_expect() lists
-# for the run to appear in the example's output.
+# Included from the top CMakeLists.txt, this file compiles the examples into
+# build/java/orla-examples.jar (target java_examples) and adds one CTest test
+# per run. Each test runs this same file in script mode (cmake -P): it starts
+# the example, requires exit code EXIT, and requires every line that
+# orla_example_expect() lists for the run to appear in the example's output.
 #
 # ORLA_EXAMPLES_STRICT=1 in the environment adds the checks that need a
 # simulator that keeps what is written to tags (a write read back).
@@ -98,17 +98,15 @@ if(CMAKE_SCRIPT_MODE_FILE)
   return()
 endif()
 
+include(UseJava)
 file(GLOB_RECURSE EXAMPLES_JAVA CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/java/examples/*.java)
-add_custom_command(
-  OUTPUT ${JAVA_OUT}/examples.stamp
-  COMMAND ${CMAKE_COMMAND} -E rm -rf ${JAVA_OUT}/examples
-  COMMAND ${Java_JAVAC_EXECUTABLE} -Xlint:all -Werror -encoding UTF-8
-          -cp ${JAVA_OUT}/sdk -d ${JAVA_OUT}/examples ${EXAMPLES_JAVA}
-  COMMAND ${CMAKE_COMMAND} -E touch ${JAVA_OUT}/examples.stamp
-  DEPENDS ${JAVA_OUT}/sdk.stamp ${EXAMPLES_JAVA}
-  COMMENT "javac: examples")
-add_custom_target(java_examples ALL DEPENDS ${JAVA_OUT}/examples.stamp)
+set(CMAKE_JAVA_COMPILE_FLAGS -Xlint:all -Werror -encoding UTF-8)
+set(CMAKE_JAVA_INCLUDE_PATH ${JAVA_OUT}/sdk)
+add_jar(java_examples SOURCES ${EXAMPLES_JAVA} OUTPUT_NAME orla-examples OUTPUT_DIR ${JAVA_OUT})
 add_dependencies(java_examples java_sdk)
+unset(CMAKE_JAVA_COMPILE_FLAGS)
+unset(CMAKE_JAVA_INCLUDE_PATH)
+set(EXAMPLES_JAR ${JAVA_OUT}/orla-examples.jar)
 
 # One smoke test: the example CLASS run with ARGS (comma-separated), whose
 # output RUN's expectations check and whose exit code must be EXIT.
@@ -116,7 +114,7 @@ function(orla_example_test run class exit args)
   add_test(NAME example_${run}
     COMMAND ${CMAKE_COMMAND}
             -DJAVA=${Java_JAVA_EXECUTABLE} -DSIM=$<TARGET_FILE:halyard> -DLIB=$<TARGET_FILE:orlajni>
-            -DCLASSPATH=${JAVA_OUT}/sdk:${JAVA_OUT}/examples -DCLASS=${class} -DRUN=${run}
+            -DCLASSPATH=${JAVA_OUT}/sdk:${EXAMPLES_JAR} -DCLASS=${class} -DRUN=${run}
             -DEXIT=${exit} -DARGS=${args}
             -P ${CMAKE_CURRENT_LIST_FILE})
   set_tests_properties(example_${run} PROPERTIES

@@ -15,4 +15,4 @@ shift
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build -j2 --target orlajni halyard java_examples
 exec java -Dorla.sim=build/libhalyard.so -Dorla.lib=build/liborlajni.so \
-  -cp build/java/sdk:build/java/examples "com.kovra.rfid.orla.examples.$example" "$@"
+  -cp build/java/sdk:build/java/orla-examples.jar "com.kovra.rfid.orla.examples.$example" "$@"

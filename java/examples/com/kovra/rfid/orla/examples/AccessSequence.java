@@ -5,7 +5,6 @@ import com.kovra.rfid.orla.ACCESS_OPERATION_CODE;
 import com.kovra.rfid.orla.MEMORY_BANK;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.STOP_TRIGGER_TYPE;
-import com.kovra.rfid.orla.TAG_DATA;
 import com.kovra.rfid.orla.TRIGGER_INFO;
 
 /**
@@ -21,8 +20,6 @@ public final class AccessSequence {
 
     /** How long the sequence runs, in milliseconds. */
     private static final int RUN_MS = 500;
-    /** Tags fetched per call of rfid_GetReadTags. */
-    private static final int BATCH = 32;
 
     private AccessSequence() {
     }
@@ -81,23 +78,10 @@ public final class AccessSequence {
 
     /** Prints each tag the sequence reported: its ID, which operation, its status and the data read. */
     private static void report(ExampleReader reader) {
-        TAG_DATA[] batch = new TAG_DATA[BATCH];
-        for (int i = 0; i < BATCH; i++) {
-            batch[i] = new TAG_DATA();
-        }
-        int[] count = new int[1];
-        int total = 0;
-        do {
-            count[0] = 0;
-            ORLANatives.rfid_GetReadTags(reader.handle, BATCH, batch, count, true);
-            for (int i = 0; i < count[0]; i++) {
-                TAG_DATA tag = batch[i];
-                // Codes and statuses arrive as ordinals: enumOPCode is that of ACCESS_OPERATION_CODE.
+        int total = reader.fetchTags(tag ->
+                // Codes and statuses arrive as ordinals: enumOPCode is that of an ACCESS_OPERATION_CODE.
                 System.out.printf("  tag %s: %s status %d data %s%n", tag.tagID,
-                        ACCESS_OPERATION_CODE.values()[tag.enumOPCode], tag.enumOPStatus, tag.memoryBankData);
-            }
-            total += count[0];
-        } while (count[0] == BATCH);
+                        ACCESS_OPERATION_CODE.values()[tag.enumOPCode], tag.enumOPStatus, tag.memoryBankData));
         System.out.printf("%d results reported%n", total);
     }
 

@@ -3,7 +3,6 @@ package com.kovra.rfid.orla.examples;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.RFID_EVENT_TYPE;
 import com.kovra.rfid.orla.STOP_TRIGGER_TYPE;
-import com.kovra.rfid.orla.TAG_DATA;
 import com.kovra.rfid.orla.TRIGGER_WITH_TIMEOUT;
 import com.kovra.rfid.orla.TRIGGER_INFO;
 
@@ -31,8 +30,6 @@ public final class EventsAndTriggers {
     private static final short STOP_AFTER_TAGS = 20;
     /** ...or after this many milliseconds, whichever comes first. */
     private static final int STOP_TIMEOUT_MS = 2000;
-    /** Tags fetched per call of rfid_GetReadTags. */
-    private static final int BATCH = 32;
 
     private EventsAndTriggers() {
     }
@@ -79,10 +76,6 @@ public final class EventsAndTriggers {
 
     /** Waits on the three events until the inventory stops, fetching the tags of every read event. */
     private static void collect(ExampleReader reader, long[] handles) {
-        TAG_DATA[] batch = new TAG_DATA[BATCH];
-        for (int i = 0; i < BATCH; i++) {
-            batch[i] = new TAG_DATA();
-        }
         Set<String> distinct = new HashSet<>();
         int reads = 0;
         long started = System.currentTimeMillis();
@@ -95,33 +88,17 @@ public final class EventsAndTriggers {
             }
             RFID_EVENT_TYPE event = EVENTS[wait];
             if (event == RFID_EVENT_TYPE.TAG_READ_EVENT) {
-                int fetched = fetch(reader, batch, distinct);
+                int fetched = reader.fetchTags(tag -> distinct.add(tag.tagID));
                 reads += fetched;
                 System.out.printf("event %s: %d tags fetched%n", event, fetched);
             } else {
                 System.out.printf("event %s after %d ms%n", event, System.currentTimeMillis() - started);
             }
             if (event == RFID_EVENT_TYPE.INVENTORY_STOP_EVENT) {
-                reads += fetch(reader, batch, distinct); // what arrived after the last read event
+                reads += reader.fetchTags(tag -> distinct.add(tag.tagID)); // what came after the last read event
                 break;
             }
         }
         System.out.printf("%d distinct tags in %d reads%n", distinct.size(), reads);
-    }
-
-    /** Takes every buffered tag, batch by batch; returns how many were taken. */
-    private static int fetch(ExampleReader reader, TAG_DATA[] batch, Set<String> distinct) {
-        int taken = 0;
-        int[] count = new int[1];
-        do {
-            // The count is written only when the reader delivers: reset it before each call.
-            count[0] = 0;
-            ORLANatives.rfid_GetReadTags(reader.handle, batch.length, batch, count, true);
-            for (int i = 0; i < count[0]; i++) {
-                distinct.add(batch[i].tagID);
-            }
-            taken += count[0];
-        } while (count[0] == batch.length);
-        return taken;
     }
 }

@@ -5,8 +5,10 @@ import com.kovra.rfid.orla.ERROR_INFO;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.OrlaLibrary;
 import com.kovra.rfid.orla.RFID_STATUS;
+import com.kovra.rfid.orla.TAG_DATA;
 
 import java.util.HexFormat;
+import java.util.function.Consumer;
 
 /**
  * The frame that every example shares: load the native library, connect to the reader, run the example's
@@ -37,11 +39,19 @@ final class ExampleReader implements AutoCloseable {
         }
     }
 
+    /** Tags taken from the reader's buffer per call of rfid_GetReadTags. */
+    private static final int BATCH = 32;
+
     /** The reader handle that every call takes. */
     final int handle;
+    /** The tag objects that rfid_GetReadTags fills: it creates none, so they are made once, up front. */
+    private final TAG_DATA[] batch = new TAG_DATA[BATCH];
 
     private ExampleReader(int handle) {
         this.handle = handle;
+        for (int i = 0; i < BATCH; i++) {
+            batch[i] = new TAG_DATA();
+        }
     }
 
     /**
@@ -86,6 +96,28 @@ final class ExampleReader implements AutoCloseable {
             throw new CallFailed(step);
         }
         return status;
+    }
+
+    /**
+     * Takes every tag the reader has buffered, batch by batch, and hands each to {@code each} (the object is
+     * reused by the next batch: copy what you keep).
+     *
+     * @return the number of tags taken
+     */
+    int fetchTags(Consumer<TAG_DATA> each) {
+        int taken = 0;
+        int[] count = new int[1];
+        do {
+            // The count is written only when the reader delivers tags: reset it before each call, and rely on
+            // it rather than on the status (which is that of handing the batch back).
+            count[0] = 0;
+            ORLANatives.rfid_GetReadTags(handle, BATCH, batch, count, true);
+            for (int i = 0; i < count[0]; i++) {
+                each.accept(batch[i]);
+            }
+            taken += count[0];
+        } while (count[0] == BATCH);
+        return taken;
     }
 
     /** The name of a status code: the {@link RFID_STATUS} constant, or the number when it has none. */
