@@ -1241,7 +1241,7 @@ public final class ORLANatives {
      */
     public static native int RFID_GetGPIDebounceTime(int readerHandle, int[] value, int[] debounceRecord);
     /**
-     * Lights the user LED in a colour for {@code duration} milliseconds, steady or blinking.
+     * Lights the user LED in a colour for {@code ledInfo.duration}, steady or blinking.
      *
      * @param readerHandle the reader handle
      * @param ledInfo colour, duration and blink; neither it nor its {@code ledColor} may be null
