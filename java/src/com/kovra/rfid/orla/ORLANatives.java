@@ -54,7 +54,8 @@ package com.kovra.rfid.orla;
  * {@link ANTENNA_INFO#length}, the bit counts of {@link TAG_PATTERN} and {@link PRE_FILTER},
  * {@code writeDataLength}, {@code maskLength}, {@link AUTHENTICATE_PARAMS#length}, a {@code tagIDLength}
  * smaller than half the digits of the tag ID, a tag array shorter than the tags a batch returns, a
- * {@link READER_CAPS} or user-application array smaller than what the reader reports;</li>
+ * {@link READER_CAPS} array smaller than the reader's counts, an array of {@link USER_APP_INFO} longer than the
+ * reader's list;</li>
  * <li>arrays of fixed size that are shorter: {@link LOCK_ACCESS_PARAMS#enumPrivilege} (5 elements),
  * {@link CRYPTO_PARAMS#IChallenge} (3), the debounce record of {@link #RFID_SetGPIDebounceTime} (4), and
  * the arrays of {@link EXTRA_TRIGGER_INFO} (7; a shorter one raises {@code ArrayIndexOutOfBoundsException}
@@ -468,8 +469,8 @@ public final class ORLANatives {
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna, sent as an unsigned 16-bit value
-     * @param preFilter the filter; must not be null (it is sent only when {@code filterIndex} is not null)
-     * @param filterIndex one-element array; element 0 receives the new filter's index on status 0
+     * @param preFilter the filter; must not be null
+     * @param filterIndex one-element array, not null; element 0 receives the new filter's index on status 0
      * @return the status
      */
     public static native int RFID_AddPreFilter(int readerHandle, int antennaID, PRE_FILTER preFilter,
@@ -692,7 +693,7 @@ public final class ORLANatives {
     // NXP and Impinj chip commands.
     /**
      * Sets an NXP tag's read protection (a <a href="#access">tag access</a> operation). A {@code tagIDLength}
-     * of 0 sends no tag ID (the access filter then selects the tags); a negative one is invalid.
+     * of 0 sends no tag ID (the access filter then selects the tags); it must not be negative.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's ID as hexadecimal text; not read when {@code tagIDLength} is 0
@@ -1007,7 +1008,7 @@ public final class ORLANatives {
      *
      * @param readerHandle the reader handle
      * @param count sent unchanged beside the records; pass {@code compensations.length}
-     * @param compensations one record per antenna; no element may be null
+     * @param compensations one record per antenna; neither the array nor an element may be null
      * @return the status
      */
     public static native int RFID_SetCableLossCompensation(int readerHandle, short count,
