@@ -11,15 +11,16 @@ package com.kovra.rfid.orla;
  * <ul>
  * <li><b>Status.</b> Unless a method says otherwise it returns the reader's status code unchanged: 0 is
  * success, any other value is the ordinal of an {@link RFID_STATUS}. After a failure,
- * {@link #RFID_GetLastErrorInfo} tells what went wrong and {@link #RFID_GetErrorDescription} gives the text of
- * a status. No method throws an exception.</li>
- * <li><b>Reader handle.</b> {@link #RFID_Connect}, {@link #RFID_Login} and {@link #RFID_AcceptConnection}
- * return a handle in element 0 of a {@code long[]}; every other method takes it as an {@code int}
- * ({@code (int) handle[0]}; only the low 32 bits are significant).</li>
+ * {@link #RFID_GetLastErrorInfo RFID_GetLastErrorInfo} tells what went wrong and {@link #RFID_GetErrorDescription
+ * RFID_GetErrorDescription} gives the text of a status. No method throws an exception.</li>
+ * <li><b>Reader handle.</b> {@link #RFID_Connect RFID_Connect}, {@link #RFID_Login RFID_Login} and {@link
+ * #RFID_AcceptConnection RFID_AcceptConnection} return a handle in element 0 of a {@code long[]}; every other
+ * method takes it as an {@code int} ({@code (int) handle[0]}; only the low 32 bits are significant).</li>
  * <li><b>Results are written only on success.</b> Out-parameters are one-element arrays (element 0 receives
  * the value) or objects of the data classes. They are written only when the status is 0 and are left as they
- * were otherwise. The exceptions say so on their method: {@link #rfid_GetReadTags},
- * {@link #RFID_GetAntennaConfig}, {@link #RFID_GetRadioIdleTimeout} and {@link #RFID_GetReaderCaps}.</li>
+ * were otherwise. The exceptions say so on their method: {@link #rfid_GetReadTags rfid_GetReadTags},
+ * {@link #RFID_GetAntennaConfig RFID_GetAntennaConfig}, {@link #RFID_GetRadioIdleTimeout RFID_GetRadioIdleTimeout}
+ * and {@link #RFID_GetReaderCaps RFID_GetReaderCaps}.</li>
  * <li><b>Objects are filled, never created.</b> A method writes into the objects and arrays that the object
  * it is given already holds (the constructors of the data classes create them), and reads every field it
  * needs.</li>
@@ -57,60 +58,65 @@ package com.kovra.rfid.orla;
  * {@link READER_CAPS} array smaller than the reader's counts, an array of {@link USER_APP_INFO} longer than the
  * reader's list;</li>
  * <li>arrays of fixed size that are shorter: {@link LOCK_ACCESS_PARAMS#enumPrivilege} (5 elements),
- * {@link CRYPTO_PARAMS#IChallenge} (3), the debounce record of {@link #RFID_SetGPIDebounceTime} (4), and
- * the arrays of {@link EXTRA_TRIGGER_INFO} (7; a shorter one raises {@code ArrayIndexOutOfBoundsException}
- * when the call returns);</li>
+ * {@link CRYPTO_PARAMS#IChallenge} (3), the debounce record of {@link #RFID_SetGPIDebounceTime
+ * RFID_SetGPIDebounceTime} (4), and the arrays of {@link EXTRA_TRIGGER_INFO} (7; a shorter one raises {@code
+ * ArrayIndexOutOfBoundsException} when the call returns);</li>
  * <li>more antennas than the fixed room of an operation: 12 antenna IDs and 8 operation qualifiers for
- * {@link #RFID_PerformInventory} and {@link #RFID_PerformTagLocationing}, 8 and 8 for every other method
- * that takes an {@link ANTENNA_INFO};</li>
- * <li>{@link #RFID_ReadBuffer}, which reads its parameter fields through a null reference whatever it is
- * given: do not call it;</li>
- * <li>the three power-negotiation methods ({@link #RFID_GetPowerNegotiationStatus},
- * {@link #RFID_SetPowerNegotiationState}, {@link #RFID_GetPowerNegotiationState}) are exported by the
- * library only under C++ symbol names, which the JVM does not bind: calling them throws
- * {@link UnsatisfiedLinkError}.</li>
+ * {@link #RFID_PerformInventory RFID_PerformInventory} and {@link #RFID_PerformTagLocationing
+ * RFID_PerformTagLocationing}, 8 and 8 for every other method that takes an {@link ANTENNA_INFO};</li>
+ * <li>{@link #RFID_ReadBuffer RFID_ReadBuffer}, which reads its parameter fields through a null reference whatever
+ * it is given: do not call it;</li>
+ * <li>the three power-negotiation methods ({@link #RFID_GetPowerNegotiationStatus RFID_GetPowerNegotiationStatus},
+ * {@link #RFID_SetPowerNegotiationState RFID_SetPowerNegotiationState}, {@link #RFID_GetPowerNegotiationState
+ * RFID_GetPowerNegotiationState}) are exported by the library only under C++ symbol names, which the JVM does not
+ * bind: calling them throws {@link UnsatisfiedLinkError}.</li>
  * </ul>
  *
  * <h2 id="families">Families</h2>
  * <dl>
  * <dt>Session</dt>
- * <dd>{@link #RFID_Connect} opens a reader and yields the handle; {@link #RFID_DisConnect} closes it. The
- * management session ({@link #RFID_Login}), the reader-initiated LLRP connection
- * ({@link #RFID_SetLLRPConnectionConfig}) and errors, version and trace ({@link #RFID_GetLastErrorInfo})
- * belong here too.</dd>
+ * <dd>{@link #RFID_Connect RFID_Connect} opens a reader and yields the handle; {@link #RFID_DisConnect
+ * RFID_DisConnect} closes it. The management session ({@link #RFID_Login RFID_Login}), the reader-initiated LLRP
+ * connection ({@link #RFID_SetLLRPConnectionConfig RFID_SetLLRPConnectionConfig}) and errors, version and trace
+ * ({@link #RFID_GetLastErrorInfo RFID_GetLastErrorInfo}) belong here too.</dd>
  * <dt id="events">Events</dt>
- * <dd>Create an event handle with {@link #rfidUtils_CreateEvent}, register it for an {@link RFID_EVENT_TYPE}
- * with {@link #RFID_RegisterEventNotification}, wait with {@link #rfidUtils_WaitForSingleObject} (result 0:
- * signalled, 258: time-out), then fetch what happened: tags with {@link #rfid_GetReadTags}, other events'
- * data with {@link #RFID_GetEventData}. Close the handle with {@link #rfidUtils_CloseHandle}.</dd>
+ * <dd>Create an event handle with {@link #rfidUtils_CreateEvent rfidUtils_CreateEvent}, register it for an {@link
+ * RFID_EVENT_TYPE} with {@link #RFID_RegisterEventNotification RFID_RegisterEventNotification}, wait with {@link
+ * #rfidUtils_WaitForSingleObject rfidUtils_WaitForSingleObject} (result 0: signalled, 258: time-out), then fetch
+ * what happened: tags with {@link #rfid_GetReadTags rfid_GetReadTags}, other events' data with {@link
+ * #RFID_GetEventData RFID_GetEventData}. Close the handle with {@link #rfidUtils_CloseHandle
+ * rfidUtils_CloseHandle}.</dd>
  * <dt id="inventory">Inventory and tag retrieval</dt>
- * <dd>{@link #RFID_PerformInventory} starts reading every tag in the field under a {@link TRIGGER_INFO}
- * (when it starts, when it stops, when tags are reported), optionally on chosen antennas
+ * <dd>{@link #RFID_PerformInventory RFID_PerformInventory} starts reading every tag in the field under a {@link
+ * TRIGGER_INFO} (when it starts, when it stops, when tags are reported), optionally on chosen antennas
  * ({@link ANTENNA_INFO}) and reporting only tags that match a {@link POST_FILTER}. The reader buffers the tags;
- * fetch them in batches with {@link #rfid_GetReadTags} or one at a time with {@link #RFID_GetReadTag}, stop
- * with {@link #RFID_StopInventory}. Tag locationing and the NXP EAS scan work the same way. Pre-filters
- * ({@link #RFID_AddPreFilter}) select the tags that take part at all; tag storage and singulation settings
- * tune the buffer and the Gen2 session.</dd>
+ * fetch them in batches with {@link #rfid_GetReadTags rfid_GetReadTags} or one at a time with {@link
+ * #RFID_GetReadTag RFID_GetReadTag}, stop with {@link #RFID_StopInventory RFID_StopInventory}. Tag locationing and
+ * the NXP EAS scan work the same way. Pre-filters ({@link #RFID_AddPreFilter RFID_AddPreFilter}) select the tags
+ * that take part at all; tag storage and singulation settings tune the buffer and the Gen2 session.</dd>
  * <dt id="access">Tag access</dt>
- * <dd>Each single operation ({@link #RFID_Read} to {@link #RFID_WriteTagID}, the NXP and Impinj commands,
- * the Gen2v2 commands) acts on one tag and returns when the reader has finished. All take the same leading
- * arguments: reader handle, tag ID as hexadecimal text and its length in bytes, the operation's parameter
- * object, an optional {@link ACCESS_FILTER} (which tags the operation applies to, may be null) and an optional
- * {@link ANTENNA_INFO} (may be null: the reader's default antennas). Operations that return a tag also take a
- * {@link TAG_DATA} (may be null), filled on status 0 with the tag and the data read
+ * <dd>Each single operation ({@link #RFID_Read RFID_Read} to {@link #RFID_WriteTagID RFID_WriteTagID}, the NXP and
+ * Impinj commands, the Gen2v2 commands) acts on one tag and returns when the reader has finished. All take the
+ * same leading arguments: reader handle, tag ID as hexadecimal text and its length in bytes, the operation's
+ * parameter object, an optional {@link ACCESS_FILTER} (which tags the operation applies to, may be null) and an
+ * optional {@link ANTENNA_INFO} (may be null: the reader's default antennas). Operations that return a tag also
+ * take a {@link TAG_DATA} (may be null), filled on status 0 with the tag and the data read
  * ({@link TAG_DATA#memoryBankData}) or the operation's result ({@link TAG_DATA#AccessOperationResult}); two
  * reserved {@code Object} arguments, never read (pass null); and {@code utcTime}, which chooses whether the
  * seen times go to {@link SEEN_TIME#utcTime} (true) or as up-time counts to {@link SEEN_TIME#upTime}
  * (false).</dd>
  * <dt id="sequence">Access sequences</dt>
- * <dd>{@link #RFID_InitializeAccessSequence}, then {@link #RFID_AddOperationToAccessSequence} once per
- * operation, {@link #RFID_PerformAccessSequence} to apply the operations to every tag the reader singulates,
- * {@link #RFID_StopAccessSequence}, {@link #RFID_GetLastAccessResult} for the counts, and
- * {@link #RFID_DeinitializeAccessSequence}.</dd>
+ * <dd>{@link #RFID_InitializeAccessSequence RFID_InitializeAccessSequence}, then {@link
+ * #RFID_AddOperationToAccessSequence RFID_AddOperationToAccessSequence} once per operation, {@link
+ * #RFID_PerformAccessSequence RFID_PerformAccessSequence} to apply the operations to every tag the reader
+ * singulates, {@link #RFID_StopAccessSequence RFID_StopAccessSequence}, {@link #RFID_GetLastAccessResult
+ * RFID_GetLastAccessResult} for the counts, and {@link #RFID_DeinitializeAccessSequence
+ * RFID_DeinitializeAccessSequence}.</dd>
  * <dt id="config">Reader configuration</dt>
- * <dd>Capabilities ({@link #RFID_GetReaderCaps}: the tables that the power, sensitivity and frequency
- * indices refer to), antennas ({@link #RFID_GetAntennaRfConfig}), radio, GPIO and the user LED, reader
- * information, clock, statistics and health, profiles, software updates and user applications.</dd>
+ * <dd>Capabilities ({@link #RFID_GetReaderCaps RFID_GetReaderCaps}: the tables that the power, sensitivity and
+ * frequency indices refer to), antennas ({@link #RFID_GetAntennaRfConfig RFID_GetAntennaRfConfig}), radio, GPIO
+ * and the user LED, reader information, clock, statistics and health, profiles, software updates and user
+ * applications.</dd>
  * </dl>
  */
 public final class ORLANatives {
@@ -166,14 +172,14 @@ public final class ORLANatives {
     /**
      * Ends the management session.
      *
-     * @param readerHandle the management handle from {@link #RFID_Login}
+     * @param readerHandle the management handle from {@link #RFID_Login RFID_Login}
      * @return the status
      */
     public static native int RFID_Logout(int readerHandle);
     /**
      * Restarts the reader.
      *
-     * @param readerHandle the management handle from {@link #RFID_Login}
+     * @param readerHandle the management handle from {@link #RFID_Login RFID_Login}
      * @return the status
      */
     public static native int RFID_Restart(int readerHandle);
@@ -228,12 +234,12 @@ public final class ORLANatives {
     // Event handles (created and waited on in groups as long, used singly as int) and reader events.
     /**
      * Creates an event handle for the <a href="#events">events</a> of a reader. Keep the {@code long} for
-     * {@link #rfidUtils_WaitForMultipleObjects}; the methods that take a single handle take it as an
-     * {@code int} (only its low 32 bits are used).
+     * {@link #rfidUtils_WaitForMultipleObjects rfidUtils_WaitForMultipleObjects}; the methods that take a single
+     * handle take it as an {@code int} (only its low 32 bits are used).
      *
      * @param unused not used
-     * @param manualReset non-zero for an event that stays signalled until {@link #rfidUtils_ResetEvent}, 0 for
-     *        one that a successful wait resets
+     * @param manualReset non-zero for an event that stays signalled until {@link #rfidUtils_ResetEvent
+     *        rfidUtils_ResetEvent}, 0 for one that a successful wait resets
      * @param initialState non-zero to create the event signalled
      * @return the new event handle (not a status)
      */
@@ -271,8 +277,8 @@ public final class ORLANatives {
      * Blocks the calling thread until one (or all) of several events is signalled or the time-out passes.
      *
      * @param count number of handles to wait on; at most the length of {@code eventHandles}
-     * @param eventHandles the event handles as {@link #rfidUtils_CreateEvent} returned them; may be null only
-     *        when {@code count} is 0
+     * @param eventHandles the event handles as {@link #rfidUtils_CreateEvent rfidUtils_CreateEvent} returned them;
+     *        may be null only when {@code count} is 0
      * @param waitAll true to wait until all are signalled, false for the first one
      * @param timeoutMilliseconds how long to wait, in milliseconds
      * @return when waiting for any, 0 plus the index of the signalled handle; when waiting for all, 0; 258 on
@@ -286,7 +292,7 @@ public final class ORLANatives {
      *
      * @param readerHandle the reader handle
      * @param eventType the event type; must not be null
-     * @param eventHandle the event handle (from {@link #rfidUtils_CreateEvent})
+     * @param eventHandle the event handle (from {@link #rfidUtils_CreateEvent rfidUtils_CreateEvent})
      * @return the status
      */
     public static native int RFID_RegisterEventNotification(int readerHandle, RFID_EVENT_TYPE eventType,
@@ -304,7 +310,7 @@ public final class ORLANatives {
      * type (see {@link EVENT_DATA}), on status 0. The types without data ({@code TAG_READ_EVENT},
      * {@code BUFFER_FULL_WARNING_EVENT}, the inventory and access start and stop events,
      * {@code BUFFER_FULL_EVENT}, {@code DEBUG_INFO_EVENT} and {@code GPS_DATA_EVENT}) return 0 at once and
-     * write nothing: tags are fetched with {@link #rfid_GetReadTags}.
+     * write nothing: tags are fetched with {@link #rfid_GetReadTags rfid_GetReadTags}.
      *
      * @param readerHandle the reader handle
      * @param eventType the event type; must not be null
@@ -349,15 +355,15 @@ public final class ORLANatives {
 
     // Tag records held by Java and tag retrieval.
     /**
-     * Allocates a tag record in the reader API, for {@link #RFID_GetReadTag}. Release it with
-     * {@link #RFID_DeallocateTag}.
+     * Allocates a tag record in the reader API, for {@link #RFID_GetReadTag RFID_GetReadTag}. Release it with
+     * {@link #RFID_DeallocateTag RFID_DeallocateTag}.
      *
      * @param readerHandle the reader handle
      * @return the record's address (0 when none could be allocated); not a status
      */
     public static native long RFID_AllocateTag(int readerHandle);
     /**
-     * Releases a tag record from {@link #RFID_AllocateTag}.
+     * Releases a tag record from {@link #RFID_AllocateTag RFID_AllocateTag}.
      *
      * @param readerHandle the reader handle
      * @param tagRecord the record's address
@@ -366,11 +372,11 @@ public final class ORLANatives {
     public static native int RFID_DeallocateTag(int readerHandle, long tagRecord);
     /**
      * Takes the next buffered tag into the tag record and, on status 0, copies it into {@code tagData}.
-     * {@link #rfid_GetReadTags} does the same for a batch in one call.
+     * {@link #rfid_GetReadTags rfid_GetReadTags} does the same for a batch in one call.
      *
      * @param readerHandle the reader handle
      * @param tagData receives the tag; must not be null
-     * @param tagRecord a record from {@link #RFID_AllocateTag}, reused from call to call
+     * @param tagRecord a record from {@link #RFID_AllocateTag RFID_AllocateTag}, reused from call to call
      * @param utcTime true for the seen times as {@link SEEN_TIME#utcTime}, false as up-time counts in
      *        {@link SEEN_TIME#upTime}
      * @return the status
@@ -387,7 +393,7 @@ public final class ORLANatives {
      * @param tags constructed tag objects, at least {@code maxCount} of them (a null element among those
      *        filled crashes the JVM)
      * @param tagCount one-element array; element 0 receives the number of tags taken
-     * @param utcTime as for {@link #RFID_GetReadTag}
+     * @param utcTime as for {@link #RFID_GetReadTag RFID_GetReadTag}
      * @return the status of handing the batch back to the reader, which is 0 even when no tag was delivered;
      *         not the status of the fetch
      */
@@ -397,8 +403,8 @@ public final class ORLANatives {
     // Inventory, tag locationing and NXP EAS scan.
     /**
      * Starts an <a href="#inventory">inventory</a>: the reader reads the tags in its field and buffers them
-     * until {@link #RFID_StopInventory} or the stop trigger. Fetch the tags with {@link #rfid_GetReadTags}
-     * when the {@code TAG_READ_EVENT} is signalled.
+     * until {@link #RFID_StopInventory RFID_StopInventory} or the stop trigger. Fetch the tags with {@link
+     * #rfid_GetReadTags rfid_GetReadTags} when the {@code TAG_READ_EVENT} is signalled.
      *
      * @param readerHandle the reader handle
      * @param postFilter reports only the tags that match; may be null (all tags)
@@ -425,7 +431,7 @@ public final class ORLANatives {
     public static native int RFID_PurgeTags(int readerHandle);
     /**
      * Starts locating one tag; the tags reported carry {@link TAG_DATA#location}. Stop with
-     * {@link #RFID_StopTagLocationing}.
+     * {@link #RFID_StopTagLocationing RFID_StopTagLocationing}.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's ID as hexadecimal text
@@ -444,7 +450,7 @@ public final class ORLANatives {
     public static native int RFID_StopTagLocationing(int readerHandle);
     /**
      * Starts an NXP EAS (electronic article surveillance) scan; tags whose EAS bit is set raise the
-     * {@code NXP_EAS_ALARM_EVENT}. Stop with {@link #RFID_StopNXPEASScan}.
+     * {@code NXP_EAS_ALARM_EVENT}. Stop with {@link #RFID_StopNXPEASScan RFID_StopNXPEASScan}.
      *
      * @param readerHandle the reader handle
      * @param antennaInfo the antennas to use, at most 8; may be null
@@ -480,7 +486,7 @@ public final class ORLANatives {
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna, sent as an unsigned 16-bit value
-     * @param filterIndex the index that {@link #RFID_AddPreFilter} returned
+     * @param filterIndex the index that {@link #RFID_AddPreFilter RFID_AddPreFilter} returned
      * @return the status
      */
     public static native int RFID_DeletePreFilter(int readerHandle, int antennaID, int filterIndex);
@@ -566,7 +572,7 @@ public final class ORLANatives {
     public static native int RFID_Write(int readerHandle, String tagID, int tagIDLength, WRITE_ACCESS_PARAMS params,
             ACCESS_FILTER accessFilter, ANTENNA_INFO antennaInfo);
     /**
-     * Writes like {@link #RFID_Write}, with the Gen2 block write command.
+     * Writes like {@link #RFID_Write RFID_Write}, with the Gen2 block write command.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's ID as hexadecimal text
@@ -665,7 +671,7 @@ public final class ORLANatives {
     public static native int RFID_WriteAccessPassword(int readerHandle, String tagID, int tagIDLength,
             WRITE_FIELD_ACCESS_PARAMS params, ANTENNA_INFO antennaInfo);
     /**
-     * Writes a tag's kill password, like {@link #RFID_WriteAccessPassword}.
+     * Writes a tag's kill password, like {@link #RFID_WriteAccessPassword RFID_WriteAccessPassword}.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's ID as hexadecimal text
@@ -677,8 +683,8 @@ public final class ORLANatives {
     public static native int RFID_WriteKillPassword(int readerHandle, String tagID, int tagIDLength,
             WRITE_FIELD_ACCESS_PARAMS params, ANTENNA_INFO antennaInfo);
     /**
-     * Writes a new tag ID, like {@link #RFID_WriteAccessPassword}; {@code writeDataLength} is the new ID's
-     * length in bytes.
+     * Writes a new tag ID, like {@link #RFID_WriteAccessPassword RFID_WriteAccessPassword}; {@code
+     * writeDataLength} is the new ID's length in bytes.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's current ID as hexadecimal text
@@ -830,7 +836,8 @@ public final class ORLANatives {
     /**
      * Gen2v2 read buffer. <b>Do not call:</b> this method reads {@code wordPtr}, {@code bitCount} and
      * {@code accessPassword} through a null reference whatever {@code params} is, which the JVM does not
-     * survive (see <a href="#misuse">misuse</a>). The arguments are those of {@link #RFID_Athenticate}.
+     * survive (see <a href="#misuse">misuse</a>). The arguments are those of {@link #RFID_Athenticate
+     * RFID_Athenticate}.
      *
      * @param readerHandle the reader handle
      * @param tagID the tag's ID as hexadecimal text
@@ -894,14 +901,16 @@ public final class ORLANatives {
      * Removes an operation from the access sequence.
      *
      * @param readerHandle the reader handle
-     * @param operationIndex the index that {@link #RFID_AddOperationToAccessSequence} returned
+     * @param operationIndex the index that {@link #RFID_AddOperationToAccessSequence
+     *        RFID_AddOperationToAccessSequence} returned
      * @return the status
      */
     public static native int RFID_DeleteOperationFromAccessSequence(int readerHandle, int operationIndex);
     /**
      * Runs the access sequence: the reader applies its operations to every tag it singulates until the stop
-     * trigger or {@link #RFID_StopAccessSequence}. The results arrive as tags, with the data read and the
-     * operation's code and status in each {@link TAG_DATA}; fetch them with {@link #rfid_GetReadTags}.
+     * trigger or {@link #RFID_StopAccessSequence RFID_StopAccessSequence}. The results arrive as tags, with the
+     * data read and the operation's code and status in each {@link TAG_DATA}; fetch them with {@link
+     * #rfid_GetReadTags rfid_GetReadTags}.
      *
      * @param readerHandle the reader handle
      * @param accessFilter the tags the sequence applies to; may be null
@@ -955,7 +964,7 @@ public final class ORLANatives {
     // Antenna configuration.
     /**
      * Sets an antenna's three power and frequency indices (indices into the tables of
-     * {@link #RFID_GetReaderCaps}), sent in the order given.
+     * {@link #RFID_GetReaderCaps RFID_GetReaderCaps}), sent in the order given.
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna
@@ -967,8 +976,8 @@ public final class ORLANatives {
     public static native int RFID_SetAntennaConfig(int readerHandle, short antennaID, short firstIndex,
             short secondIndex, short thirdIndex);
     /**
-     * Reads an antenna's three indices, in the order of {@link #RFID_SetAntennaConfig}. Element 0 of all
-     * three arrays is written <em>whatever the status</em>: ignore the values when it is not 0.
+     * Reads an antenna's three indices, in the order of {@link #RFID_SetAntennaConfig RFID_SetAntennaConfig}.
+     * Element 0 of all three arrays is written <em>whatever the status</em>: ignore the values when it is not 0.
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna
@@ -992,9 +1001,9 @@ public final class ORLANatives {
     public static native int RFID_GetAntennaRfConfig(int readerHandle, short antennaID, ANTENNA_RF_CONFIG config);
     /**
      * Sets an antenna's RF configuration: transmit power, receive sensitivity and frequency as indices into
-     * the tables of {@link #RFID_GetReaderCaps}, RF mode table index, tari, ports and the antenna stop
-     * trigger (whose type is read from the enum field {@code stopTriggerType}). Indices and ports are sent as
-     * 16-bit values, {@code rfModeTableIndex} and {@code tari} as 32-bit ones.
+     * the tables of {@link #RFID_GetReaderCaps RFID_GetReaderCaps}, RF mode table index, tari, ports and the
+     * antenna stop trigger (whose type is read from the enum field {@code stopTriggerType}). Indices and ports are
+     * sent as 16-bit values, {@code rfModeTableIndex} and {@code tari} as 32-bit ones.
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna
@@ -1081,7 +1090,7 @@ public final class ORLANatives {
      */
     public static native int RFID_SetRFMode(int readerHandle, short antennaID, int firstValue, int secondValue);
     /**
-     * Reads an antenna's RF mode, in the order of {@link #RFID_SetRFMode}.
+     * Reads an antenna's RF mode, in the order of {@link #RFID_SetRFMode RFID_SetRFMode}.
      *
      * @param readerHandle the reader handle
      * @param antennaID the antenna
@@ -1131,8 +1140,8 @@ public final class ORLANatives {
      */
     public static native int RFID_TurnOffRadioWhenIdle(int readerHandle, int idleTimeoutMilliseconds);
     /**
-     * Reads the idle time-out of {@link #RFID_TurnOffRadioWhenIdle}. Element 0 is set to 0 before the call,
-     * so a failed call leaves 0 there.
+     * Reads the idle time-out of {@link #RFID_TurnOffRadioWhenIdle RFID_TurnOffRadioWhenIdle}. Element 0 is set to
+     * 0 before the call, so a failed call leaves 0 there.
      *
      * @param readerHandle the reader handle
      * @param idleTimeoutMilliseconds one-element array; element 0 receives the time-out in milliseconds
@@ -1150,7 +1159,7 @@ public final class ORLANatives {
     public static native int RFID_GetPowerNegotiationStatus(int readerHandle, POWER_NEGOTIATION_STATUS status);
     /**
      * Switches power negotiation on or off, from {@code state.status}. <b>Not callable:</b> the call throws
-     * {@link UnsatisfiedLinkError}, as for {@link #RFID_GetPowerNegotiationStatus}.
+     * {@link UnsatisfiedLinkError}, as for {@link #RFID_GetPowerNegotiationStatus RFID_GetPowerNegotiationStatus}.
      *
      * @param readerHandle the reader handle
      * @param state the state to set
@@ -1159,7 +1168,8 @@ public final class ORLANatives {
     public static native int RFID_SetPowerNegotiationState(int readerHandle, POWER_NEGOTIATION_STATE state);
     /**
      * Reads whether power negotiation is on, into {@code state.powernegstate}. <b>Not callable:</b> the call
-     * throws {@link UnsatisfiedLinkError}, as for {@link #RFID_GetPowerNegotiationStatus}.
+     * throws {@link UnsatisfiedLinkError}, as for {@link #RFID_GetPowerNegotiationStatus
+     * RFID_GetPowerNegotiationStatus}.
      *
      * @param readerHandle the reader handle
      * @param state receives the state on status 0
@@ -1304,7 +1314,7 @@ public final class ORLANatives {
      * Sets the reader's time zone.
      *
      * @param readerHandle the reader handle
-     * @param timeZoneIndex index into the names of {@link #RFID_GetTimeZoneList}
+     * @param timeZoneIndex index into the names of {@link #RFID_GetTimeZoneList RFID_GetTimeZoneList}
      * @return the status
      */
     public static native int RFID_SetTimeZone(int readerHandle, short timeZoneIndex);
@@ -1319,7 +1329,7 @@ public final class ORLANatives {
      */
     public static native int RFID_GetReaderStats(int readerHandle, short antennaID, READER_STATS readerStats);
     /**
-     * Resets the counters of {@link #RFID_GetReaderStats}.
+     * Resets the counters of {@link #RFID_GetReaderStats RFID_GetReaderStats}.
      *
      * @param readerHandle the reader handle
      * @return the status
@@ -1385,7 +1395,7 @@ public final class ORLANatives {
      */
     public static native int RFID_SetActiveProfile(int readerHandle, String profileName);
     /**
-     * Starts a software update from a host; follow it with {@link #RFID_GetUpdateStatus}.
+     * Starts a software update from a host; follow it with {@link #RFID_GetUpdateStatus RFID_GetUpdateStatus}.
      *
      * @param readerHandle the reader handle
      * @param updateInfo host, user name and password (a null field is sent empty); must not be null
@@ -1459,8 +1469,8 @@ public final class ORLANatives {
     public static native int RFID_SetAutoStartUserApp(int readerHandle, String appName, boolean autoStart);
     /**
      * Lists the installed user applications: on status 0 fills one element of {@code userApps} per element,
-     * whatever the number installed, so size the array with {@link #RFID_NumInstalledApps}; a longer array
-     * reads past the reader's list.
+     * whatever the number installed, so size the array with {@link #RFID_NumInstalledApps RFID_NumInstalledApps};
+     * a longer array reads past the reader's list.
      *
      * @param readerHandle the reader handle
      * @param userApps constructed objects, no more than the applications installed; no element may be null

@@ -14,7 +14,7 @@ import java.util.function.Consumer;
  * The frame that every example shares: load the native library, connect to the reader, run the example's
  * steps, report a failed call by its status name and the reader's last error, and disconnect.
  *
- * <p>Each step goes through {@link #check}: it prints one line, {@code <step>: <status name>}, and on a
+ * <p>Each step goes through {@link #check check}: it prints one line, {@code <step>: <status name>}, and on a
  * status other than 0 also the reader's description of the error, then ends the example with exit code 1
  * (no stack trace).
  */
@@ -30,7 +30,7 @@ final class ExampleReader implements AutoCloseable {
         void run(ExampleReader reader);
     }
 
-    /** Ends an example after {@link #check} has reported a failed call. */
+    /** Ends an example after {@link #check check} has reported a failed call. */
     private static final class CallFailed extends RuntimeException {
         private static final long serialVersionUID = 1L;
 
