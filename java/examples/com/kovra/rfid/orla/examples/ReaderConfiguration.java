@@ -2,11 +2,14 @@ package com.kovra.rfid.orla.examples;
 
 import com.kovra.rfid.orla.ANTENNA_RF_CONFIG;
 import com.kovra.rfid.orla.ANTENNA_STOP_TRIGGER_TYPE;
+import com.kovra.rfid.orla.INVENTORY_STATE;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.READER_CAPS;
 import com.kovra.rfid.orla.READER_INFO;
 import com.kovra.rfid.orla.SESSION;
 import com.kovra.rfid.orla.SINGULATION_CONTROL;
+import com.kovra.rfid.orla.SL_FLAG;
+import com.kovra.rfid.orla.STATE_AWARE_SINGULATION_ACTION;
 
 /**
  * Reader configuration: capabilities, antenna power and singulation.
@@ -61,11 +64,15 @@ public final class ReaderConfiguration {
         System.out.printf("antenna 1 transmit power index reads back %d: %s%n", readBack.transmitPowerIndex,
                 readBack.transmitPowerIndex == highest ? "match" : "differ");
 
-        // Singulation: a set sends the enum fields (session, inventoryState, slFlag), a get fills the ordinals
-        // enumSession, enumInventoryState and enumSLFlag; here the set changes only the session and population.
+        // Singulation: a get fills the ordinals enumSession, enumInventoryState and enumSLFlag, a set sends the
+        // enum fields session, inventoryState and slFlag. Carry the state-aware action over, change the session,
+        // the expected tag population and the transit time.
         SINGULATION_CONTROL singulation = new SINGULATION_CONTROL();
         reader.check("singulation control of antenna 1", ORLANatives.RFID_GetSingulationControl(reader.handle,
                 ANTENNA, singulation));
+        STATE_AWARE_SINGULATION_ACTION action = singulation.stateAwareSingulationAction;
+        action.inventoryState = INVENTORY_STATE.values()[action.enumInventoryState];
+        action.slFlag = SL_FLAG.values()[action.enumSLFlag];
         singulation.session = SESSION.SESSION_S1;
         singulation.tagPopulation = 50;
         singulation.tagTransitTimeMilliseconds = 200;

@@ -8,6 +8,8 @@ import com.kovra.rfid.orla.TAG_DATA;
 import com.kovra.rfid.orla.WRITE_ACCESS_PARAMS;
 import com.kovra.rfid.orla.WRITE_FIELD_ACCESS_PARAMS;
 
+import java.util.Arrays;
+
 /**
  * Tag access: read, write and lock the memory of one tag.
  *
@@ -76,7 +78,7 @@ public final class TagAccess {
 
         // Lock: one privilege per lockable field (always five); only user memory changes.
         LOCK_ACCESS_PARAMS lock = new LOCK_ACCESS_PARAMS();
-        java.util.Arrays.fill(lock.enumPrivilege, LOCK_PRIVILEGE_NONE);
+        Arrays.fill(lock.enumPrivilege, LOCK_PRIVILEGE_NONE);
         lock.enumPrivilege[USER_MEMORY_FIELD] = LOCK_PRIVILEGE_READ_WRITE;
         lock.accessPassword = NEW_ACCESS_PASSWORD;
         reader.check("lock user memory", ORLANatives.RFID_Lock(reader.handle, tagID, tagIDLength, lock, null,
