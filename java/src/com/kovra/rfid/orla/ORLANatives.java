@@ -42,6 +42,11 @@ package com.kovra.rfid.orla;
  * sent as 0 or 1 unless noted.</li>
  * <li><b>Threads.</b> The library keeps no state between calls and takes no locks; any thread may call any
  * method. The event waits block only the calling thread.</li>
+ * <li><b>Native memory.</b> A few calls leave small blocks in the native heap, each call anew: the time
+ * blocks of {@link #RFID_PerformInventory RFID_PerformInventory}, the further-trigger block of every call that
+ * takes a {@link TRIGGER_INFO}, the pattern bytes of every filter and pre-filter, the record of each
+ * {@link #RFID_SetAntennaRfConfig RFID_SetAntennaRfConfig} and of each operation added to an access sequence.
+ * A few hundred bytes a call: harmless for an application, but not for a call in a tight loop.</li>
  * </ul>
  *
  * <h2 id="misuse">Misuse that crashes the virtual machine</h2>

@@ -11,6 +11,6 @@ public class TRIGGER_INFO {
     public TAG_EVENT_REPORT_INFO tagEventReportInfo;
     /** Optional. */
     public REPORT_TRIGGERS reportTriggers;
-    /** Must not be null, nor its two arrays shorter than seven elements. */
+    /** Must not be null; see {@link EXTRA_TRIGGER_INFO} for its arrays. */
     public EXTRA_TRIGGER_INFO extraTriggers = new EXTRA_TRIGGER_INFO();
 }
