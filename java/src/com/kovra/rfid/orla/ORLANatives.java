@@ -45,7 +45,9 @@ package com.kovra.rfid.orla;
  * <li><b>Native memory.</b> A few calls leave small blocks in the native heap, each call anew: the time
  * blocks of {@link #RFID_PerformInventory RFID_PerformInventory}, the further-trigger block of every call that
  * takes a {@link TRIGGER_INFO}, the pattern bytes of every filter and pre-filter, the record of each
- * {@link #RFID_SetAntennaRfConfig RFID_SetAntennaRfConfig} and of each operation added to an access sequence.
+ * {@link #RFID_SetAntennaRfConfig RFID_SetAntennaRfConfig}, of each operation added to an access sequence and
+ * of each secure {@link #RFID_SetLLRPConnectionConfig RFID_SetLLRPConnectionConfig}, and the array pinned by
+ * {@link #RFID_SetGPIDebounceTime RFID_SetGPIDebounceTime}.
  * A few hundred bytes a call: harmless for an application, but not for a call in a tight loop.</li>
  * </ul>
  *
