@@ -14,6 +14,9 @@ set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
+# Libraries installed by target are stripped (the device component keeps its
+# debug file apart; see DeviceInstall.cmake).
+set(CPACK_STRIP_FILES ON)
 set(CPACK_OUTPUT_FILE_PREFIX ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_SOURCE_DIR}/packaging/cpack_project.cmake)
 set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE amd64)

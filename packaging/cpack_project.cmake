@@ -1,16 +1,22 @@
 # Read by cpack for each generator. ORLA_PACKAGE (-D on the cpack command
 # line) says which package to make:
-#   device  liborlajni.so for a reader, installed at the reader's own paths
-#           (/platform/lib); the archive unpacks onto a reader's root.
-#   devkit  the developer kit, installed under /usr (an archive of a
-#           relocatable tree).
+#   device  liborlajni.so for a reader, at the reader's own paths
+#           (platform/lib): the .deb installs there, the archive unpacks
+#           onto a reader's root.
+#   devkit  the developer kit: the .deb installs under /usr, the archive is
+#           a relocatable tree in a directory of its own.
 if(ORLA_PACKAGE STREQUAL "device")
   set(CPACK_COMPONENTS_ALL device)
   set(CPACK_PACKAGING_INSTALL_PREFIX /)
   set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
 elseif(ORLA_PACKAGE STREQUAL "devkit")
   set(CPACK_COMPONENTS_ALL devkit)
-  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+  if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+  else()
+    set(CPACK_PACKAGING_INSTALL_PREFIX /)
+    set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+  endif()
 else()
   message(FATAL_ERROR "say which package to make: cpack -D ORLA_PACKAGE=device or devkit")
 endif()
