@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# jar_app.sh JAVA_OUT WORK_DIR VERSION
+# jar_app.sh JAVA_OUT WORK_DIR VERSION JNI_LIBRARY
 # An application compiled against orla-sdk.jar alone runs on the simulated
 # reader with only the two jars on its class path: no -D, no
 # LD_LIBRARY_PATH. Then the loader's failures: each names the file it
 # tried and where the name came from.
 source "$(dirname "$0")/checks.sh"
-java_out=$1 work=$2 version=$3
+java_out=$1 work=$2 version=$3 jni_library=$4
 sdk=$java_out/orla-sdk.jar sim=$java_out/orla-sim.jar
 classes=$work/classes
 rm -rf "$classes"
@@ -34,6 +34,12 @@ expect_contains "$out" "$work/no-sim.so (named by the system property orla.sim="
 
 out=$(run -cp "$sdk:$classes" -Djava.library.path="$work" JarApp) &&
   fail "loaded without any JNI library: $out"
-expect_contains "$out" "java.library.path ($work)" "nothing to load"
+expect_contains "$out" "from java.library.path or /platform/lib (no orlajni in java.library.path: $work)" "nothing to load"
 expect_contains "$out" "orla-sim.jar" "nothing to load"
+out=$(run -Dorla.lib="$jni_library" -cp "$sdk:$classes" JarApp) &&
+  fail "loaded without a reader API library: $out"
+expect_contains "$out" "cannot load the JNI library $jni_library (named by the system property orla.lib=" \
+  "no reader API library"
+expect_contains "$out" "needs the reader API library libhalyard.so" "no reader API library"
+
 echo "$reads reads through the jars; loader errors explain themselves"

@@ -22,8 +22,9 @@ import java.util.Properties;
  * <li>the libraries that {@code orla-sim.jar} carries, when it is on the class path: the simulated
  *     reader and a JNI library built against it, extracted to a private temporary directory and
  *     loaded from there (the simulated reader first);</li>
- * <li>the system: the JNI library as {@code orlajni} from {@code java.library.path}; it finds the
- *     reader's own {@code libhalyard.so} through its run-time search path
+ * <li>the system: the JNI library as {@code orlajni} from {@code java.library.path}, else from the
+ *     reader's library directory {@code /platform/lib}, where the device package installs it. It
+ *     finds the reader's own {@code libhalyard.so} through its run-time search path
  *     ({@code /platform/lib:/usr/lib:/apps/bin/libs}).</li>
  * </ol>
  * On a reader nothing needs to be set. A failure throws an {@link UnsatisfiedLinkError} that says
@@ -40,6 +41,8 @@ public final class OrlaLibrary {
     private static final String JNI_LIBRARY_FILE = "liborlajni.so";
     /** Where orla-sim.jar carries its libraries. */
     private static final String BUNDLE = "/META-INF/orla-jni/linux-x86-64/";
+    /** The reader's library directory. */
+    private static final File PLATFORM_LIBRARY = new File("/platform/lib", JNI_LIBRARY_FILE);
     private static final String DEVELOPMENT_HINT = "on a development machine, put orla-sim.jar on the class"
             + " path or name the simulated reader with -D" + READER_API_PROPERTY + "=FILE";
 
@@ -118,8 +121,12 @@ public final class OrlaLibrary {
         try {
             System.loadLibrary("orlajni");
         } catch (UnsatisfiedLinkError e) {
-            throw failure("cannot load the JNI library " + JNI_LIBRARY_FILE + " from java.library.path ("
-                    + System.getProperty("java.library.path") + "): " + e.getMessage() + needsReaderApi(e)
+            if (PLATFORM_LIBRARY.isFile()) {
+                loadFile("the JNI library", PLATFORM_LIBRARY, "the reader's library directory");
+                return;
+            }
+            throw failure("cannot load the JNI library " + JNI_LIBRARY_FILE + " from java.library.path or "
+                    + PLATFORM_LIBRARY.getParent() + " (" + e.getMessage() + ")" + needsReaderApi(e)
                     + "; name the file with -D" + JNI_LIBRARY_PROPERTY + "=FILE, or " + DEVELOPMENT_HINT, e);
         }
     }
