@@ -6,5 +6,5 @@ cd "$(dirname "$0")/.."
 ./scripts/setup.sh
 cmake -S . -B build-release -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF >/dev/null
 cmake --build build-release -j2 --target orlajni halyard java_sdk
-exec java -Dorla.sim=build-release/orla-sim/libhalyard.so -Dorla.lib=build-release/liborlajni.so \
+exec java -Dorla.sim=build-release/libhalyard.so -Dorla.lib=build-release/liborlajni.so \
   -cp build-release/java/sdk:build-release/java/demo com.kovra.rfid.orla.demo.ReadTagsBench "$@"

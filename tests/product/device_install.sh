@@ -3,6 +3,7 @@
 # Installs the device component into a fresh prefix and checks the tree:
 # the stripped library at platform/lib, its debug file under the build ID,
 # nothing else (no simulator), and the library's linkage and version note.
+# Then the developer kit: the simulator only in a directory of its own.
 source "$(dirname "$0")/checks.sh"
 build=$1 work=$2 version=$3
 prefix=$work/device
@@ -27,3 +28,14 @@ check_reader_linkage "$library"
 expect_contains "$(strings "$library")" "orla-jni $version" "version text"
 expect_contains "$(readelf -n "$library")" "orla " "version note"
 echo "device component: $files"
+
+kit=$work/devkit
+rm -rf "$kit"
+cmake --install "$build" --component devkit --prefix "$kit" >/dev/null
+files=$(cd "$kit" && find . -type f | sed 's|^\./||' | sort)
+for file in share/java/orla-sdk.jar share/java/orla-sim.jar lib/orla-sim/libhalyard.so \
+            lib/orla-sim/liborlajni.so share/doc/orla-jni/README.md; do
+  grep -qx "$file" <<<"$files" || fail "developer kit without $file: $files"
+done
+[ "$(grep -c 'libhalyard' <<<"$files")" -eq 1 ] || fail "more than one simulator in the kit: $files"
+echo "developer kit: $(wc -l <<<"$files") files"

@@ -20,7 +20,7 @@ if ! { cmake -S "$source_dir" -B "$build" -DORLA_DEVICE_ONLY=ON -DCMAKE_BUILD_TY
   fail "device-only build"
 fi
 [ -f "$build/reader-api-stub/libhalyard.so" ] || fail "no link-only stub was built"
-[ ! -e "$build/orla-sim" ] || fail "the device-only build built the simulator"
+[ ! -e "$build/libhalyard.so" ] || fail "the device-only build built the simulator"
 
 rm -rf "$prefix"
 cmake --install "$build" --prefix "$prefix" >"$log" 2>&1 || { cat "$log" >&2; fail "install"; }
