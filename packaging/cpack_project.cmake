@@ -20,5 +20,7 @@ elseif(ORLA_PACKAGE STREQUAL "devkit")
 else()
   message(FATAL_ERROR "say which package to make: cpack -D ORLA_PACKAGE=device or devkit")
 endif()
+# The archive's file name, and the name of its top directory (devkit).
+set(CPACK_PACKAGE_FILE_NAME orla-jni-${ORLA_PACKAGE}-${CPACK_PACKAGE_VERSION}-linux-x86_64)
 string(TOUPPER "${ORLA_PACKAGE}" component)
-set(CPACK_ARCHIVE_${component}_FILE_NAME orla-jni-${ORLA_PACKAGE}-${CPACK_PACKAGE_VERSION}-linux-x86_64)
+set(CPACK_ARCHIVE_${component}_FILE_NAME ${CPACK_PACKAGE_FILE_NAME})
