@@ -128,6 +128,10 @@ package com.kovra.rfid.orla;
  */
 public final class ORLANatives {
 
+    static {
+        OrlaLibrary.load();
+    }
+
     private ORLANatives() {
     }
 
