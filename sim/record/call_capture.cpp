@@ -1,5 +1,7 @@
 #include "record/call_capture.h"
 
+#include <cstring>
+
 #include "record/capture_record.h"
 #include "record/captured_fields.h"
 
@@ -49,10 +51,19 @@ void CaptureInputs(const FunctionSpec& fn, const uint64_t* args, BlobSet* in) {
   }
 }
 
-void CaptureOutputs(const FunctionSpec& fn, const uint64_t* args, uint64_t result, BlobSet* out) {
+void CaptureOutputs(const FunctionSpec& fn, const uint64_t* args, uint64_t result, const BlobSet& in, BlobSet* out) {
   if (fn.result == Result::WideText) out->wide("result", static_cast<const wchar_t*>(AsPointer(result)), kMaxWideChars);
   for (size_t i = 0; i < fn.args.size(); ++i) {
-    if (fn.args[i].kind == Arg::InOut) CaptureRecordOrBytes(fn.args[i], args[i], out);
+    const ArgSpec& arg = fn.args[i];
+    if (arg.kind != Arg::InOut) continue;
+    const Blob& before = in.captured(arg.name);
+    if (arg.record == nullptr && before.present && !before.faulted && before.bytes.size() == arg.bytes) {
+      Blob after = before;
+      std::memcpy(after.bytes.data(), AsPointer(args[i]), arg.bytes);
+      out->put(arg.name, std::move(after));
+      continue;
+    }
+    CaptureRecordOrBytes(arg, args[i], out);
   }
   // The count of a tag array is an out-parameter captured just now.
   for (size_t i = 0; i < fn.args.size(); ++i) {

@@ -15,7 +15,9 @@ constexpr int kMaxArgs = 8;
 constexpr size_t kMaxWideChars = 4096;
 
 void CaptureInputs(const FunctionSpec& fn, const uint64_t* args, BlobSet* in);
-void CaptureOutputs(const FunctionSpec& fn, const uint64_t* args, uint64_t result, BlobSet* out);
+// `in` is what CaptureInputs took: a plain buffer it read whole is read again
+// without a safe copy, since the call has just written to it.
+void CaptureOutputs(const FunctionSpec& fn, const uint64_t* args, uint64_t result, const BlobSet& in, BlobSet* out);
 
 // Whether the call may write through this argument.
 bool IsOutput(const ArgSpec& arg);

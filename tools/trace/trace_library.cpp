@@ -136,7 +136,7 @@ uint64_t Call(const FunctionSpec& fn, std::atomic<Forward>* cache, const uint64_
   if (!tracing) return result;
   entry.durationNanos = Nanos(CLOCK_MONOTONIC) - start;
   entry.result = result;
-  sim::api::CaptureOutputs(fn, a, result, &entry.out);
+  sim::api::CaptureOutputs(fn, a, result, entry.in, &entry.out);
   entry.seq = t.seq.fetch_add(1) + 1;
   WriteLine(t.fd, sim::trace::ToJsonLine(entry));
   return result;
