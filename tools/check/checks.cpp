@@ -47,13 +47,14 @@ const std::vector<std::string>& MangledOnlyNatives() {
   return natives;
 }
 
-std::vector<std::string> CheckReaderApi(const ElfImage& library, const ElfImage& reader_api) {
+std::vector<std::string> CheckReaderApi(const ElfImage& library, const ElfImage& reader_api,
+                                        const std::set<std::string>& providedElsewhere) {
   std::vector<std::string> problems;
   if (library.machine != reader_api.machine) {
     problems.push_back("built for another machine (ELF machine " + std::to_string(reader_api.machine) +
                        ", the library is " + std::to_string(library.machine) + ")");
   }
-  for (const std::string& name : RequiredImports(library)) {
+  for (const std::string& name : RequiredImports(library, providedElsewhere)) {
     if (FindExport(reader_api, name) == nullptr) problems.push_back("missing function: " + Described(name));
   }
   return problems;

@@ -2,6 +2,7 @@
 // returns one line per problem found, and nothing when all is well.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,9 @@ inline constexpr const char* kReaderApiSoname = "libhalyard.so";
 
 // Every function the library imports from the reader's C API that the
 // reader's library does not export, by symbol (and readable C++ name).
-std::vector<std::string> CheckReaderApi(const ElfImage& library, const ElfImage& reader_api);
+// providedElsewhere: what the library's other dependencies export (dependencies.h).
+std::vector<std::string> CheckReaderApi(const ElfImage& library, const ElfImage& reader_api,
+                                        const std::set<std::string>& providedElsewhere = {});
 
 // The library's own linkage: every native exported under its JNI name
 // (natives lists them, from the javac header), the power-negotiation

@@ -187,10 +187,10 @@ ElfResult LoadElf(const std::string& path) {
   return result;
 }
 
-std::vector<std::string> RequiredImports(const ElfImage& image) {
+std::vector<std::string> RequiredImports(const ElfImage& image, const std::set<std::string>& providedElsewhere) {
   std::vector<std::string> names;
   for (const DynamicSymbol& s : image.symbols) {
-    if (!s.defined && s.global && !s.versioned) names.push_back(s.name);
+    if (!s.defined && s.global && !s.versioned && providedElsewhere.count(s.name) == 0) names.push_back(s.name);
   }
   return names;
 }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -43,7 +44,7 @@ ElfResult LoadElf(const std::string& path);
 // What the reader's C API must provide: the library's undefined, non-weak
 // symbols that carry no version requirement (the C and C++ run-time's
 // symbols always do).
-std::vector<std::string> RequiredImports(const ElfImage& image);
+std::vector<std::string> RequiredImports(const ElfImage& image, const std::set<std::string>& providedElsewhere = {});
 
 // The symbol of that name that the library defines and exports, if any.
 const DynamicSymbol* FindExport(const ElfImage& image, const std::string& name);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "checks.h"
+#include "dependencies.h"
 #include "elf_image.h"
 #include "jni_natives.h"
 
@@ -127,7 +128,11 @@ int main(int argc, char** argv) {
   }
   ElfImage library;
   if (!Load("library", options.library, &library)) return kUsage;
-  const std::vector<std::string> imports = orla::check::RequiredImports(library);
+  std::vector<std::string> dirs = Split(library.runpath.value_or(""), ':');
+  dirs.insert(dirs.end(), orla::check::SystemLibraryDirs().begin(), orla::check::SystemLibraryDirs().end());
+  const std::set<std::string> providedElsewhere =
+      orla::check::ExportsOfOtherDependencies(library, orla::check::kReaderApiSoname, dirs);
+  const std::vector<std::string> imports = orla::check::RequiredImports(library, providedElsewhere);
 
   if (options.list_imports) {
     for (const std::string& name : imports) std::cout << name << "\n";
@@ -151,7 +156,7 @@ int main(int argc, char** argv) {
                            std::to_string(orla::check::MangledOnlyNatives().size()) +
                            " under C++ names only); needs " + orla::check::kReaderApiSoname + "; RUNPATH " +
                            orla::check::kReaderRunpath);
-  passed &= Report("reader API " + options.reader_api, orla::check::CheckReaderApi(library, reader_api),
+  passed &= Report("reader API " + options.reader_api, orla::check::CheckReaderApi(library, reader_api, providedElsewhere),
                    "all " + std::to_string(imports.size()) + " functions the library imports are present");
   std::cout << (passed ? "all checks pass\n" : "a check failed\n");
   return passed ? kPass : kFail;
