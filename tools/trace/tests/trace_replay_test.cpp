@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -204,6 +205,8 @@ class TraceReplayTest : public ::testing::Test {
     ASSERT_NE(tracer_, nullptr) << dlerror();
   }
 
+  static void TearDownTestSuite() { std::remove(path_->c_str()); }
+
   void SetUp() override {
     sim::replay::stop();
     sim::resetSimulator();
@@ -334,6 +337,7 @@ TEST_F(TraceReplayTest, ReplayOfAnUnreadableTraceIsRefused) {
   std::string error;
   EXPECT_FALSE(sim::replay::start(bad, &error));
   EXPECT_NE(error.find("halyard-bad-trace.jsonl:2:"), std::string::npos) << error;
+  std::remove(bad.c_str());
   EXPECT_FALSE(sim::replay::start("/nonexistent/trace.jsonl", &error));
   EXPECT_NE(error.find("cannot open"), std::string::npos) << error;
 }
