@@ -3,6 +3,7 @@
 #include <mutex>
 #include <vector>
 
+#include "reader/last_error.h"
 #include "reader_bytes.h"
 #include "reader_state.h"
 #include "record_bytes.h"
@@ -92,7 +93,7 @@ int32_t answerRead(ApiCall& call, int64_t handle, void* tag) {
   const Blob params = call.captured("params");
   const int32_t status = call.finish();
   if (status != kSuccess) return status;
-  return readTagMemory(handle, tagID, params, tag);
+  return rememberFailure(handle, readTagMemory(handle, tagID, params, tag), "RFID_Read");
 }
 
 }  // namespace sim
