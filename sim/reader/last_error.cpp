@@ -45,6 +45,9 @@ const wchar_t* describeStatus(int32_t status) {
     case kNoOperationRunning: return L"No operation is running";
     case kNotFound: return L"Not found";
     case kOutOfMemory: return L"Out of memory";
+    case kMemoryOverrun: return L"Tag memory overrun";
+    case kMemoryLocked: return L"Tag memory locked";
+    case kPasswordMismatch: return L"Incorrect tag password";
     default: return L"Unknown status";
   }
 }

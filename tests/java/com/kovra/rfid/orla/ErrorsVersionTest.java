@@ -71,9 +71,9 @@ class ErrorsVersionTest extends NativeTest {
             {(IntSupplier) () -> ORLANatives.RFID_DeleteOperationFromAccessSequence(handle, 7), 6, "Not found",
                 "RFID_DeleteOperationFromAccessSequence: the access sequence holds no operation 7"},
             {(IntSupplier) () -> {
-                SimControl.setStatus("RFID_SetTraceLevel", FAILED);
+                SimControl.setStatus("RFID_SetTraceLevel", 99);
                 return ORLANatives.RFID_SetTraceLevel(handle, 1);
-            }, FAILED, "Unknown status", "RFID_SetTraceLevel: Unknown status"},
+            }, 99, "Unknown status", "RFID_SetTraceLevel: Unknown status"},
         };
         for (Object[] failure : failures) {
             int status = (Integer) failure[1];
