@@ -94,6 +94,9 @@ class ApiCall {
 
   // Appends the journal entry and settles the status (see above).
   int32_t finish();
+  // After finish(): whether the test scripted the status (then it stands,
+  // and the call changes no reader state).
+  bool scripted() const { return scripted_; }
 
  private:
   Recorder recorder_;
@@ -101,6 +104,7 @@ class ApiCall {
   int64_t handle_ = 0;
   bool checksHandle_ = false;
   bool missing_ = false;
+  bool scripted_ = false;
   std::vector<std::string> names_;
 
   void captureOuts(std::initializer_list<Out> outs);
@@ -160,7 +164,8 @@ inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
 
 inline int32_t ApiCall::finish() {
   int32_t status = kSuccess;
-  if (!recorder_.finish(&status)) {
+  scripted_ = recorder_.finish(&status);
+  if (!scripted_) {
     if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
     if (missing_) status = kInvalidParam;
   }

@@ -108,12 +108,12 @@ class AccessOperationTest extends TagAccessTest {
         p.byteOffset = 2;
         TAG_DATA tag = markedTag();
         int[] counts = {4, 0, 7};
-        int[] statuses = {0, 0, 2};
+        int[] statuses = {0, 0, 8};
         String[] banks = {"22334455", "223344556677", "223344556677"};
         for (int i = 0; i < 3; i++) {
             p.byteCount = (short) counts[i];
             assertEquals(statuses[i], ORLANatives.RFID_Read(handle, epc, 12, p, null, null, tag, null, null, true));
-            assertEquals(banks[i], tag.memoryBankData, "a count of 0 reads to the end, 7 is beyond the bank");
+            assertEquals(banks[i], tag.memoryBankData, "a count of 0 reads to the end, 7 overruns the bank");
         }
         assertEquals(epc, tag.tagID);
         assertArrayEquals(new int[] {0, 3, 2, -61}, new int[] {tag.enumOPCode, tag.enumMemoryBank, tag.antennaID,
