@@ -90,6 +90,7 @@ void Operation::readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen) {
   run.deadline = deadlineOf(plan_.triggers.stop, Clock::now());
   run.gpiSeen = gpiSeen;
   const bool access = plan_.kind == OperationKind::kAccessSequence;
+  if (access) resetAccessCounts(reader_->handle);
   raiseEvent(reader_->handle, access ? kAccessStartEvent : kInventoryStartEvent, {});
   while (!stopRequested_) {
     for (Bytes& epc : round()) run.uniqueTags.insert(std::move(epc));

@@ -155,7 +155,6 @@ int32_t performSequence(ApiCall& call, int64_t handle, bool readable) {
   plan.antennas = antennaList(capturedOf(call), "antennaInfo");
   plan.postFilter = readPostFilter(capturedOf(call), "accessFilter");
   plan.triggers = readTriggers(call.captured("triggerInfo"));
-  resetAccessCounts(handle);
   return rememberFailure(handle, startOperation(reader, std::move(plan)), fn,
                          "the reader already runs an inventory, locate, EAS scan or access sequence");
 }

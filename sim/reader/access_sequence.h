@@ -30,7 +30,7 @@ void clearSequence(int64_t handle);
 std::vector<SequencedOperation> sequenceOperations(int64_t handle);
 
 // Operations performed during the last run: those the tag carried out and
-// those it refused. A new run starts them at 0.
+// those it refused. Each run of the sequence starts them at 0.
 struct AccessCounts {
   uint32_t succeeded = 0;
   uint32_t failed = 0;

@@ -52,6 +52,7 @@ bool reportResult(Reader& reader, void* resultTag, const Answered& first, const 
   {
     std::lock_guard<std::mutex> lock(reader.mutex);
     read = makeRead(reader, first.seen, first.antenna);
+    read.peakRssi = first.seen.rssiByAntenna.at(first.antenna);  // one sighting: the tag's own level
     fill.maxTagIdBytes = reader.storage.maxTagIDByteCount();
     fill.maxMemoryBankBytes = reader.storage.maxMemoryBankByteCount();
     fill.upTime = reader.upTimeForm;
