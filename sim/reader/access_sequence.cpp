@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "reader_rounds.h"
-#include "session_store.h"
+#include "reader/rounds.h"
+#include "reader/session_store.h"
 
 namespace sim {
 namespace {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "reader/tag_access.h"
-#include "reader_filters.h"
-#include "reader_state.h"
+#include "reader/filters.h"
+#include "reader/state.h"
 
 namespace sim {
 

@@ -1,6 +1,6 @@
 #include "reader/antenna_selection.h"
 
-#include "tag_population.h"
+#include "reader/population.h"
 
 namespace sim {
 

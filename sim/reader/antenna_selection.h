@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "capture_read.h"
+#include "record/captures.h"
 
 namespace sim {
 

@@ -2,11 +2,11 @@
 
 #include <cwchar>
 
-#include "record_bytes.h"
-#include "session.h"
-#include "session_store.h"
-#include "status.h"
-#include "tag_read.h"
+#include "record/captured_fields.h"
+#include "reader/sessions.h"
+#include "reader/session_store.h"
+#include "reader/status.h"
+#include "reader/tag_read.h"
 
 namespace sim {
 namespace {

@@ -6,10 +6,10 @@
 #include "reader/antenna_selection.h"
 #include "reader/last_error.h"
 #include "reader/tag_access.h"
-#include "reader_rounds.h"
-#include "reader_state.h"
-#include "status.h"
-#include "tag_record.h"
+#include "reader/rounds.h"
+#include "reader/state.h"
+#include "reader/status.h"
+#include "reader/tag_records.h"
 
 namespace sim {
 namespace {

@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-#include "api_call.h"
+#include "record/api_call.h"
 
 namespace sim {
 

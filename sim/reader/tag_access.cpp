@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
-#include "record_bytes.h"
-#include "status.h"
+#include "record/captured_fields.h"
+#include "reader/status.h"
 
 namespace sim {
 namespace {

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "journal.h"
+#include "record/journal.h"
 #include "reader/tag_memory.h"
-#include "reader_filters.h"
-#include "tag_read.h"
+#include "reader/filters.h"
+#include "reader/tag_read.h"
 
 namespace sim {
 

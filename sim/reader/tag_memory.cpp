@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "status.h"
+#include "reader/status.h"
 
 namespace sim {
 namespace {

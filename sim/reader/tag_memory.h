@@ -14,7 +14,7 @@
 #include <cstdint>
 #include <string>
 
-#include "tag_population.h"
+#include "reader/population.h"
 
 namespace sim {
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "reader/tag_memory.h"
-#include "status.h"
-#include "tag_population.h"
+#include "reader/status.h"
+#include "reader/population.h"
 
 namespace {
 

@@ -1,0 +1,389 @@
+// Tag access: single operations, chip-specific and Gen2v2 commands, access
+// sequences. Each records what it was sent (tag ID bytes, the operation's
+// parameter record with the buffer it points to, filter and antennas), then
+// acts on the simulated tags (reader/single_access.h, reader/access_sequence.h)
+// unless the test scripted its status or result tag.
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "record/api_call.h"
+#include "record/captures.h"
+#include "reader/last_error.h"
+#include "reader/access_sequence.h"
+#include "reader/antenna_selection.h"
+#include "reader/single_access.h"
+#include "reader/tag_access.h"
+#include "reader/operation.h"
+#include "reader/triggers.h"
+#include "record/captured_fields.h"
+#include "reader/session_store.h"
+
+namespace sim {
+namespace {
+
+constexpr size_t kAccessOperationBytes = 48;
+constexpr size_t kOperationParamsAt = 8;
+
+// A buffer a parameter record points to: the pointer's offset, the offset
+// of its 16-bit length, and how many length units make a byte.
+struct Pointee {
+  const char* name;
+  size_t pointerAt;
+  size_t lengthAt;
+  unsigned unitsPerByte;
+};
+
+constexpr Pointee kWriteData{"writeData", 8, 16, 1};
+constexpr Pointee kFieldWriteData{"writeData", 0, 8, 1};
+constexpr Pointee kPermalockMask{"mask", 16, 24, 1};
+constexpr Pointee kMessage{"pMessage", 8, 4, 8};  // length in bits
+
+struct ParamsLayout {
+  size_t bytes;
+  const Pointee* pointee;
+};
+
+constexpr ParamsLayout kReadParams{48, nullptr};
+constexpr ParamsLayout kWriteParams{56, &kWriteData};
+constexpr ParamsLayout kBlockEraseParams{48, nullptr};
+constexpr ParamsLayout kLockParams{56, nullptr};
+constexpr ParamsLayout kKillParams{40, nullptr};
+constexpr ParamsLayout kPermalockParams{64, &kPermalockMask};
+constexpr ParamsLayout kRecommissionParams{40, nullptr};
+constexpr ParamsLayout kWriteFieldParams{48, &kFieldWriteData};
+constexpr ParamsLayout kNxpParams{40, nullptr};
+constexpr ParamsLayout kQtReadParams{40, nullptr};
+constexpr ParamsLayout kQtWriteParams{80, nullptr};
+constexpr ParamsLayout kAuthenticateParams{56, &kMessage};
+constexpr ParamsLayout kUntraceableParams{56, nullptr};
+constexpr ParamsLayout kReadBufferParams{40, nullptr};
+constexpr ParamsLayout kCryptoParams{64, nullptr};
+
+void captureParams(ApiCall& call, const std::string& name, const void* params, ParamsLayout layout) {
+  call.blob(name, params, layout.bytes);
+  if (layout.pointee == nullptr) return;
+  const Blob& record = call.captured(name);
+  const Pointee& p = *layout.pointee;
+  call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
+}
+
+// The parameter record of an access-sequence operation, by operation code.
+ParamsLayout operationLayout(uint32_t opCode) {
+  switch (opCode) {
+    case 0: return kReadParams;
+    case 1: return kWriteParams;
+    case 2: return kLockParams;
+    case 3: return kKillParams;
+    case 4: return kWriteParams;
+    case 5: return kBlockEraseParams;
+    case 6: return kRecommissionParams;
+    case 7: return kPermalockParams;
+    case 8: case 9: case 10: return kNxpParams;
+    case 20: return kQtWriteParams;
+    case 21: return kQtReadParams;
+    case 22: return kNxpParams;
+    default: return {0, nullptr};
+  }
+}
+
+// An operation that is NULL or cannot be read, or whose parameter record
+// cannot be read, is refused with kInvalidParam.
+void captureOperation(ApiCall& call, const void* operation) {
+  call.blob("operation", operation, kAccessOperationBytes);
+  call.require(operation);
+  const Blob& record = call.captured("operation");
+  if (!record.present || record.faulted) {
+    call.require(nullptr);
+    return;
+  }
+  ParamsLayout layout = operationLayout(fieldAt<uint32_t>(record, 0));
+  if (layout.bytes == 0) return;
+  captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  if (call.captured("operation.params").faulted) call.require(nullptr);
+}
+
+// What a tag operation with an access filter is sent: the tag ID bytes, the
+// parameter record with the buffer it points to, the filter and the
+// antennas.
+void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLength, const void* params,
+                         ParamsLayout layout, const void* filter, const void* antenna) {
+  call.blob("tagID", tagID, tagIDLength);
+  captureParams(call, "params", params, layout);
+  captureFilter(call, "accessFilter", filter);
+  captureAntennaInfo(call, "antennaInfo", antenna);
+}
+
+// The operation record of an access sequence with copies of its parameter
+// record and of the buffer that points to.
+AccessOperation addedOperation(const ApiCall& call) {
+  AccessOperation operation;
+  operation.op = fieldAt<uint32_t>(call.captured("operation"), 0);
+  operation.params = call.captured("operation.params");
+  const Pointee* pointee = operationLayout(operation.op).pointee;
+  if (pointee != nullptr) operation.data = call.captured(std::string("operation.params.") + pointee->name);
+  return operation;
+}
+
+std::vector<uint8_t> u32Bytes(uint32_t value) {
+  std::vector<uint8_t> bytes;
+  putField(&bytes, 0, value);
+  return bytes;
+}
+
+// Initialising or discarding a sequence starts its indices over.
+int32_t answerClearingSequence(ApiCall& call, int64_t handle) {
+  int32_t status = call.finish();
+  if (status == kSuccess) clearSequence(handle);
+  return status;
+}
+
+int32_t performSequence(ApiCall& call, int64_t handle, bool readable) {
+  const char* fn = "RFID_PerformAccessSequence";
+  const int32_t status = call.finish();
+  if (call.scripted() || status != kSuccess) return status;
+  const ReaderPtr reader = findReader(handle);
+  if (!reader) return kInvalidHandle;
+  if (!readable) return rememberFailure(handle, kInvalidParam, fn, "a filter, antenna or trigger record cannot be read");
+  OperationPlan plan;
+  plan.kind = OperationKind::kAccessSequence;
+  plan.accessOperations = sequenceOperations(handle);
+  if (plan.accessOperations.empty()) {
+    return rememberFailure(handle, kInvalidParam, fn, "the access sequence holds no operation");
+  }
+  plan.antennas = antennaList(capturedOf(call), "antennaInfo");
+  plan.postFilter = readPostFilter(capturedOf(call), "accessFilter");
+  plan.triggers = readTriggers(call.captured("triggerInfo"));
+  return rememberFailure(handle, startOperation(reader, std::move(plan)), fn,
+                         "the reader already runs an inventory, locate, EAS scan or access sequence");
+}
+
+}  // namespace
+}  // namespace sim
+
+using sim::ApiCall;
+
+extern "C" {
+// Single operations that return a tag: handle, tag ID, length, parameters,
+// filter, antennas, result tag, reserved.
+
+int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Read", sim::kOpRead, nullptr, tag);
+}
+
+int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                            void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_BlockPermalock", sim::kOpBlockPermalock, "mask", tag);
+}
+
+int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                             void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_NXPChangeConfig", sim::kOpNxpChangeConfig, nullptr, tag);
+}
+
+int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_ImpinjQTRead", sim::kOpQtRead, nullptr, tag);
+}
+
+int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Authenticate", sim::kOpAuthenticate, nullptr, tag);
+}
+
+int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                         void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Untraceable", sim::kOpUntraceable, nullptr, tag);
+}
+
+int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_ReadBuffer", sim::kOpReadBuffer, nullptr, tag);
+}
+
+int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                    void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Crypto", sim::kOpCrypto, nullptr, tag);
+}
+
+// Single operations without a result tag: handle, tag ID, length,
+// parameters, filter, antennas, reserved.
+
+int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                   void* antenna, void* reserved) {
+  ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, "writeData", nullptr);
+}
+
+int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* reserved) {
+  ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_BlockWrite", sim::kOpBlockWrite, "writeData", nullptr);
+}
+
+int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* reserved) {
+  ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_BlockErase", sim::kOpBlockErase, nullptr, nullptr);
+}
+
+int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* reserved) {
+  ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Lock", sim::kOpLock, nullptr, nullptr);
+}
+
+int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* reserved) {
+  ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Kill", sim::kOpKill, nullptr, nullptr);
+}
+
+int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* reserved) {
+  ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Recommission", sim::kOpRecommission, nullptr, nullptr);
+}
+
+int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                            void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_NXPReadProtect", sim::kOpNxpReadProtect, nullptr, nullptr);
+}
+
+int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                       void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_NXPSetEAS", sim::kOpNxpSetEas, nullptr, nullptr);
+}
+
+int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                           void* antenna, void* reserved) {
+  ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_ImpinjQTWrite", sim::kOpQtWrite, nullptr, nullptr);
+}
+
+// Writes of one tag field take no filter: handle, tag ID, length,
+// parameters, antennas, reserved.
+
+int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                                 void* reserved) {
+  ApiCall call("RFID_WriteAccessPassword", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return sim::answerAccess(call, handle, "RFID_WriteAccessPassword", sim::kOpWriteAccessPassword, "writeData", nullptr);
+}
+
+int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                               void* reserved) {
+  ApiCall call("RFID_WriteKillPassword", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return sim::answerAccess(call, handle, "RFID_WriteKillPassword", sim::kOpWriteKillPassword, "writeData", nullptr);
+}
+
+int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                        void* reserved) {
+  ApiCall call("RFID_WriteTagID", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return sim::answerAccess(call, handle, "RFID_WriteTagID", sim::kOpWriteTagId, "writeData", nullptr);
+}
+
+// The one chip command without a tag ID.
+int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
+  sim::captureParams(call, "params", params, sim::kNxpParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return sim::answerAccess(call, handle, "RFID_NXPResetReadProtect", sim::kOpNxpResetReadProtect, nullptr, nullptr);
+}
+
+int32_t RFID_InitializeAccessSequence(int64_t handle) {
+  ApiCall call("RFID_InitializeAccessSequence", handle);
+  return sim::answerClearingSequence(call, handle);
+}
+
+int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint32_t* index) {
+  ApiCall call("RFID_AddOperationToAccessSequence", handle, operation, index);
+  sim::captureOperation(call, operation);
+  call.outputs({{index, sizeof *index, "index"}}, sim::u32Bytes(sim::nextOperationIndex(handle)));
+  int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::addOperation(handle, sim::addedOperation(call));
+  return status;
+}
+
+// An index the sequence does not hold answers kNotFound.
+int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
+  ApiCall call("RFID_DeleteOperationFromAccessSequence", handle, index);
+  int32_t status = call.finish();
+  if (status == sim::kSuccess && !sim::removeOperation(handle, index)) {
+    return sim::rememberFailure(handle, sim::kNotFound, "RFID_DeleteOperationFromAccessSequence",
+                                "the access sequence holds no operation " + std::to_string(index));
+  }
+  return status;
+}
+
+int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, void* trigger, void* reserved) {
+  ApiCall call("RFID_PerformAccessSequence", handle, filter, antenna, trigger, reserved);
+  bool readable = sim::captureFilter(call, "accessFilter", filter);
+  readable = sim::captureAntennaInfo(call, "antennaInfo", antenna) && readable;
+  readable = sim::captureTriggerInfo(call, "triggerInfo", trigger) && readable;
+  return sim::performSequence(call, handle, readable);
+}
+
+int32_t RFID_StopAccessSequence(int64_t handle) {
+  ApiCall call("RFID_StopAccessSequence", handle);
+  const int32_t status = call.finish();
+  if (call.scripted() || status != sim::kSuccess) return status;
+  const sim::ReaderPtr reader = sim::findReader(handle);
+  if (!reader) return sim::kInvalidHandle;
+  return sim::rememberFailure(handle, sim::stopOperation(*reader, sim::OperationKind::kAccessSequence),
+                              "RFID_StopAccessSequence", "no access sequence is running");
+}
+
+// The counts of the last run: the operations carried out, then those refused.
+int32_t RFID_GetLastAccessResult(int64_t handle, uint32_t* first, uint32_t* second) {
+  ApiCall call("RFID_GetLastAccessResult", handle, first, second);
+  const sim::AccessCounts counts = sim::accessCounts(handle);
+  std::vector<uint8_t> both = sim::u32Bytes(counts.succeeded);
+  sim::putField(&both, 4, counts.failed);
+  call.outputs({{first, sizeof *first, "first"}, {second, sizeof *second, "second"}}, both);
+  return call.finish();
+}
+
+int32_t RFID_DeinitializeAccessSequence(int64_t handle) {
+  ApiCall call("RFID_DeinitializeAccessSequence", handle);
+  return sim::answerClearingSequence(call, handle);
+}
+
+}  // extern "C"
