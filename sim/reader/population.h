@@ -45,6 +45,10 @@ struct SimTag {
   bool readProtected = false;
   uint16_t configWord = 0;
   uint16_t qtControl = 0;
+  // Gen2v2 untraceable: how much TID is hidden (0 none, 1 all but its first
+  // two words, 2 all), and whether USER is.
+  uint32_t hiddenTid = 0;
+  bool hiddenUser = false;
 
   bool inFieldOf(uint16_t antenna) const { return rssiByAntenna.count(antenna) > 0; }
   // Bank contents as a Gen2 tag keeps them: reserved = kill + access

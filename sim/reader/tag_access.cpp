@@ -10,29 +10,31 @@ namespace {
 
 // Parameter records by byte offset and size.
 namespace read_params {  // READ_ACCESS_PARAMS and BLOCK_ERASE_ACCESS_PARAMS
-constexpr size_t kBank = 0, kOffset = 4, kCount = 6, kPassword = 8, kBytes = 48;
+constexpr size_t kBank = 0, kOffset = 4, kCount = 6, kPassword = 8;
 }
 namespace write_params {  // WRITE_ACCESS_PARAMS
-constexpr size_t kBank = 0, kOffset = 4, kPassword = 20, kBytes = 56;
+constexpr size_t kBank = 0, kOffset = 4, kPassword = 20;
 }
 namespace lock_params {  // LOCK_ACCESS_PARAMS
-constexpr size_t kPrivileges = 0, kPassword = 20, kBytes = 56;
+constexpr size_t kPrivileges = 0, kPassword = 20;
 }
 namespace kill_params {  // KILL_ACCESS_PARAMS and RECOMMISSION_ACCESS_PARAMS
-constexpr size_t kPassword = 0, kRecommissionCode = 4, kBytes = 40;
+constexpr size_t kPassword = 0, kRecommissionCode = 4;
 }
 namespace permalock_params {  // BLOCK_PERMALOCK_ACCESS_PARAMS
-constexpr size_t kBank = 0, kReadLock = 4, kOffset = 6, kCount = 8, kPassword = 12, kBytes = 64;
+constexpr size_t kBank = 0, kReadLock = 4, kOffset = 6, kCount = 8, kPassword = 12;
 }
 namespace field_params {  // WRITE_FIELD_ACCESS_PARAMS
-constexpr size_t kPassword = 12, kBytes = 48;
+constexpr size_t kPassword = 12;
 }
 namespace chip_params {  // the NXP and QT records: the password first
-constexpr size_t kPassword = 0, kFlag = 4, kConfigWord = 4, kQtControl = 8, kBytes = 40;
+constexpr size_t kPassword = 0, kFlag = 4, kConfigWord = 4, kQtControl = 8;
 }
-// The Gen2v2 records' access passwords.
+namespace untraceable_params {  // UNTRACEABLE_PARAMS
+constexpr size_t kHideTid = 4, kHideUser = 8, kPassword = 16;
+}
+// The other Gen2v2 records' access passwords.
 constexpr size_t kAuthenticatePassword = 16;
-constexpr size_t kUntraceablePassword = 16;
 constexpr size_t kReadBufferPassword = 4;
 constexpr size_t kCryptoPassword = 24;
 
@@ -46,25 +48,9 @@ TagAnswer refused(const std::string& reason) {
   return answer;
 }
 
-size_t neededBytes(uint32_t op) {
-  switch (op) {
-    case kOpRead: case kOpBlockErase: return read_params::kBytes;
-    case kOpWrite: case kOpBlockWrite: return write_params::kBytes;
-    case kOpLock: return lock_params::kBytes;
-    case kOpKill: case kOpRecommission: return kill_params::kBytes;
-    case kOpBlockPermalock: return permalock_params::kBytes;
-    case kOpWriteAccessPassword: case kOpWriteKillPassword: case kOpWriteTagId: return field_params::kBytes;
-    case kOpNxpSetEas: case kOpNxpReadProtect: case kOpNxpResetReadProtect: case kOpNxpChangeConfig:
-    case kOpQtRead: case kOpQtWrite: return chip_params::kBytes;
-    case kOpAuthenticate: case kOpUntraceable: case kOpReadBuffer: case kOpCrypto: return kCryptoPassword + 4;
-    default: return 0;
-  }
-}
-
 size_t gen2v2PasswordAt(uint32_t op) {
   switch (op) {
     case kOpAuthenticate: return kAuthenticatePassword;
-    case kOpUntraceable: return kUntraceablePassword;
     case kOpReadBuffer: return kReadBufferPassword;
     default: return kCryptoPassword;
   }
@@ -90,7 +76,6 @@ TagAnswer writeField(SimTag& tag, size_t at, const AccessOperation& o) {
 TagAnswer applyOperation(SimTag& tag, const AccessOperation& o) {
   const Blob& p = o.params;
   if (!p.present || p.faulted) return refused("no parameter record");
-  if (p.bytes.size() < neededBytes(o.op)) return refused("the parameter record is too short");
   switch (o.op) {
     case kOpRead:
       return readMemory(tag, fieldAt<uint32_t>(p, read_params::kBank), fieldAt<uint16_t>(p, read_params::kOffset),
@@ -140,8 +125,11 @@ TagAnswer applyOperation(SimTag& tag, const AccessOperation& o) {
                             fieldAt<uint32_t>(p, chip_params::kPassword));
     case kOpQtRead:
       return readQtControl(tag, fieldAt<uint32_t>(p, chip_params::kPassword));
-    case kOpAuthenticate:
     case kOpUntraceable:
+      return makeUntraceable(tag, fieldAt<uint32_t>(p, untraceable_params::kHideTid),
+                             fieldAt<uint8_t>(p, untraceable_params::kHideUser) != 0,
+                             fieldAt<uint32_t>(p, untraceable_params::kPassword));
+    case kOpAuthenticate:
     case kOpReadBuffer:
     case kOpCrypto:
       return touch(tag, fieldAt<uint32_t>(p, gen2v2PasswordAt(o.op)));

@@ -49,10 +49,10 @@ struct AccessOperation {
   Blob data;
 };
 
-// Applies the operation to the tag. A missing or short parameter record is
+// Applies the operation to the tag. A missing parameter record is
 // refused with kInvalidParam; operations the simulated tags do not model
-// (authenticate, read buffer, untraceable, crypto, the EAS alarm and
-// calibrate commands) only check the tag and its access password.
+// (authenticate, read buffer, crypto, the EAS alarm and calibrate
+// commands) only check the tag and its access password.
 TagAnswer applyOperation(SimTag& tag, const AccessOperation& operation);
 
 // The result a read reports for the operation's answer.

@@ -1,6 +1,7 @@
 #include "reader/tag_memory.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 
 #include "reader/status.h"
@@ -13,6 +14,8 @@ constexpr size_t kKillPasswordAt = 0;
 constexpr size_t kAccessPasswordAt = 4;
 constexpr uint32_t kLastBank = kBankUser;
 constexpr uint32_t kLastRecommission = 6;
+constexpr uint32_t kHideAllTid = 2;
+constexpr size_t kShownTidBytes = 4;  // an untraceable tag that hides some TID shows its class words
 
 TagAnswer fail(int32_t status, std::string reason) {
   TagAnswer answer;
@@ -73,6 +76,10 @@ std::optional<TagAnswer> readRefused(const SimTag& tag, uint32_t bank, size_t fr
   if (tag.readProtected) return fail(kMemoryLocked, "the tag is read-protected");
   if ((tag.qtControl & kQtPublicView) != 0 && (bank == kBankTid || bank == kBankUser)) {
     return fail(kMemoryLocked, theBank(bank) + " is hidden in the tag's public memory view");
+  }
+  const size_t shownTid = tag.hiddenTid == 0 ? SIZE_MAX : tag.hiddenTid == 1 ? kShownTidBytes : 0;
+  if ((bank == kBankTid && from + count > shownTid) || (bank == kBankUser && tag.hiddenUser)) {
+    return fail(kMemoryLocked, theBank(bank) + " is hidden: the tag is untraceable");
   }
   if (bank != kBankReserved) return std::nullopt;
   for (LockField field : passwordFieldsIn(from, count)) {
@@ -329,6 +336,14 @@ TagAnswer changeConfig(SimTag& tag, uint16_t toggled, uint32_t password) {
 TagAnswer writeQtControl(SimTag& tag, uint16_t control, uint32_t password) {
   if (auto refused = refusedUnlessSecured(tag, password, "the QT control word")) return *refused;
   tag.qtControl = control;
+  return {};
+}
+
+TagAnswer makeUntraceable(SimTag& tag, uint32_t hideTid, bool hideUser, uint32_t password) {
+  if (auto refused = refusedUnlessSecured(tag, password, "untraceable")) return *refused;
+  if (hideTid > kHideAllTid) return fail(kInvalidParam, "TID hide state " + std::to_string(hideTid) + " is unknown");
+  tag.hiddenTid = hideTid;
+  tag.hiddenUser = hideUser;
   return {};
 }
 

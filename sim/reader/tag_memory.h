@@ -54,6 +54,10 @@ TagAnswer setReadProtect(SimTag& tag, bool on, uint32_t password);
 TagAnswer changeConfig(SimTag& tag, uint16_t toggled, uint32_t password);
 TagAnswer writeQtControl(SimTag& tag, uint16_t control, uint32_t password);
 TagAnswer readQtControl(const SimTag& tag, uint32_t password);
+// Gen2v2 untraceable: hideTid 0 shows TID, 1 hides all but its first two
+// words, 2 hides it all; hideUser hides USER. Hidden memory reads as locked.
+TagAnswer makeUntraceable(SimTag& tag, uint32_t hideTid, bool hideUser, uint32_t password);
+
 // The QT control bit that shows the public memory view: TID and USER
 // memory are then out of reach.
 constexpr uint16_t kQtPublicView = 0x8000;

@@ -33,7 +33,7 @@ class TagMemoryTest extends NativeTest {
     static final String TAGS = String.join("\n",
             "EPC=" + OPEN + " USER=0011223344556677 ANT=1 RSSI=-40",
             "EPC=" + LOCKED + " USER=8899AABBCCDDEEFF ACCESS=11112222 LOCK=USER:locked ANT=2 RSSI=-40",
-            "EPC=" + PERMA + " TID=E2801105 USER=0000000000000000 ACCESS=0000AAAA"
+            "EPC=" + PERMA + " TID=E2801105AABBCCDD USER=0000000000000000 ACCESS=0000AAAA"
                     + " LOCK=ACCESS:permalocked,TID:permalocked PERMALOCK=USER:1 ANT=3 RSSI=-40",
             "EPC=" + SHORT + " KILL=0000BEEF ANT=4 RSSI=-40");
 
@@ -321,6 +321,16 @@ class TagMemoryTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_ImpinjQTRead(reader, OPEN, 12, new IMPINJ_QT_READ_PARAMS(), null, null, tag,
                 null, null, true));
         assertEquals((short) 0x8000, tag.AccessOperationResult.value.qtData.qtControlData);
+
+        UNTRACEABLE_PARAMS hide = new UNTRACEABLE_PARAMS();
+        hide.hideTID = TID_HIDE_STATE.HIDE_TID_SOME;
+        hide.hideUser = true;
+        hide.accessPassword = 0xAAAA;
+        assertEquals(0, ORLANatives.RFID_Untraceable(reader, PERMA, 12, hide, null, null, null, null, null, true));
+        assertEquals("E2801105", read(PERMA, MEMORY_BANK.MEMORY_BANK_TID, 0, 4, 0), "the class words stay readable");
+        assertEquals("status 9", read(PERMA, MEMORY_BANK.MEMORY_BANK_TID, 0, 0, 0));
+        assertEquals("status 9", read(PERMA, MEMORY_BANK.MEMORY_BANK_USER, 0, 2, 0));
+        assertEquals("RFID_Read: the USER bank is hidden: the tag is untraceable", lastError());
 
         int alarm = event(RFID_EVENT_TYPE.NXP_EAS_ALARM_EVENT);
         int stop = event(RFID_EVENT_TYPE.INVENTORY_STOP_EVENT);
