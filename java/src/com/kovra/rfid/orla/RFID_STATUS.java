@@ -9,5 +9,8 @@ public enum RFID_STATUS {
     RFID_OPERATION_IN_PROGRESS, // 4: an inventory, locate or scan already runs
     RFID_NO_OPERATION_RUNNING, // 5: stop without a start
     RFID_NOT_FOUND, // 6: unknown index, tag or event type
-    RFID_OUT_OF_MEMORY; // 7: allocation failed
+    RFID_OUT_OF_MEMORY, // 7: allocation failed
+    RFID_MEMORY_OVERRUN, // 8: a range past the end of a tag's memory bank
+    RFID_MEMORY_LOCKED, // 9: a permalocked bank, block or password, or protected tag memory
+    RFID_PASSWORD_MISMATCH; // 10: a wrong or missing access or kill password
 }

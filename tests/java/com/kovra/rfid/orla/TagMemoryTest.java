@@ -19,10 +19,10 @@ import org.junit.jupiter.api.Test;
  */
 class TagMemoryTest extends NativeTest {
 
-    static final int NOT_FOUND = 6;
-    static final int MEMORY_OVERRUN = 8;
-    static final int MEMORY_LOCKED = 9;
-    static final int WRONG_PASSWORD = 10;
+    static final int NOT_FOUND = RFID_STATUS.RFID_NOT_FOUND.ordinal();
+    static final int MEMORY_OVERRUN = RFID_STATUS.RFID_MEMORY_OVERRUN.ordinal();
+    static final int MEMORY_LOCKED = RFID_STATUS.RFID_MEMORY_LOCKED.ordinal();
+    static final int WRONG_PASSWORD = RFID_STATUS.RFID_PASSWORD_MISMATCH.ordinal();
 
     static final String OPEN = "300000000000000000000001";
     static final String LOCKED = "300000000000000000000002";
@@ -194,6 +194,7 @@ class TagMemoryTest extends NativeTest {
             {(Step) () -> write("3000DEAD", MEMORY_BANK.MEMORY_BANK_USER, 0, "1234", 0), NOT_FOUND,
                 "RFID_Write: found no EPC 3000DEAD on antennas 1, 2, 3, 4"},
         };
+        assertEquals("Incorrect tag password", ORLANatives.RFID_GetErrorDescription(RFID_STATUS.RFID_PASSWORD_MISMATCH));
         for (Object[] step : steps) {
             String expected = (String) step[2];
             assertEquals(step[1], ((Step) step[0]).run(), expected);
