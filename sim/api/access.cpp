@@ -69,21 +69,25 @@ void captureParams(ApiCall& call, const std::string& name, const void* params, P
   call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
 }
 
+// The name under which the buffer a record points to is captured, after
+// the record's own name and a dot; NULL when it points to none.
+const char* pointeeName(ParamsLayout layout) { return layout.pointee == nullptr ? nullptr : layout.pointee->name; }
+
 // The parameter record of an access-sequence operation, by operation code.
 ParamsLayout operationLayout(uint32_t opCode) {
   switch (opCode) {
-    case 0: return kReadParams;
-    case 1: return kWriteParams;
-    case 2: return kLockParams;
-    case 3: return kKillParams;
-    case 4: return kWriteParams;
-    case 5: return kBlockEraseParams;
-    case 6: return kRecommissionParams;
-    case 7: return kPermalockParams;
-    case 8: case 9: case 10: return kNxpParams;
-    case 20: return kQtWriteParams;
-    case 21: return kQtReadParams;
-    case 22: return kNxpParams;
+    case kOpRead: return kReadParams;
+    case kOpWrite: return kWriteParams;
+    case kOpLock: return kLockParams;
+    case kOpKill: return kKillParams;
+    case kOpBlockWrite: return kWriteParams;
+    case kOpBlockErase: return kBlockEraseParams;
+    case kOpRecommission: return kRecommissionParams;
+    case kOpBlockPermalock: return kPermalockParams;
+    case kOpNxpSetEas: case kOpNxpReadProtect: case kOpNxpResetReadProtect: return kNxpParams;
+    case kOpQtWrite: return kQtWriteParams;
+    case kOpQtRead: return kQtReadParams;
+    case kOpNxpChangeConfig: return kNxpParams;
     default: return {0, nullptr};
   }
 }
@@ -121,8 +125,8 @@ AccessOperation addedOperation(const ApiCall& call) {
   AccessOperation operation;
   operation.op = fieldAt<uint32_t>(call.captured("operation"), 0);
   operation.params = call.captured("operation.params");
-  const Pointee* pointee = operationLayout(operation.op).pointee;
-  if (pointee != nullptr) operation.data = call.captured(std::string("operation.params.") + pointee->name);
+  const char* pointee = pointeeName(operationLayout(operation.op));
+  if (pointee != nullptr) operation.data = call.captured(std::string("operation.params.") + pointee);
   return operation;
 }
 
@@ -145,7 +149,9 @@ int32_t performSequence(ApiCall& call, int64_t handle, bool readable) {
   if (call.scripted() || status != kSuccess) return status;
   const ReaderPtr reader = findReader(handle);
   if (!reader) return kInvalidHandle;
-  if (!readable) return rememberFailure(handle, kInvalidParam, fn, "a filter, antenna or trigger record cannot be read");
+  if (!readable) {
+    return rememberFailure(handle, kInvalidParam, fn, "a filter, antenna or trigger record cannot be read");
+  }
   OperationPlan plan;
   plan.kind = OperationKind::kAccessSequence;
   plan.accessOperations = sequenceOperations(handle);
@@ -179,7 +185,8 @@ int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagID
                             void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
-  return sim::answerAccess(call, handle, "RFID_BlockPermalock", sim::kOpBlockPermalock, "mask", tag);
+  return sim::answerAccess(call, handle, "RFID_BlockPermalock",
+                           sim::kOpBlockPermalock, sim::pointeeName(sim::kPermalockParams), tag);
 }
 
 int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
@@ -231,14 +238,15 @@ int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, v
                    void* antenna, void* reserved) {
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
-  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, "writeData", nullptr);
+  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, sim::pointeeName(sim::kWriteParams), nullptr);
 }
 
 int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
-  return sim::answerAccess(call, handle, "RFID_BlockWrite", sim::kOpBlockWrite, "writeData", nullptr);
+  return sim::answerAccess(call, handle, "RFID_BlockWrite",
+                           sim::kOpBlockWrite, sim::pointeeName(sim::kWriteParams), nullptr);
 }
 
 int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
@@ -299,7 +307,8 @@ int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t 
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return sim::answerAccess(call, handle, "RFID_WriteAccessPassword", sim::kOpWriteAccessPassword, "writeData", nullptr);
+  return sim::answerAccess(call, handle, "RFID_WriteAccessPassword",
+                           sim::kOpWriteAccessPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
@@ -308,7 +317,8 @@ int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t ta
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return sim::answerAccess(call, handle, "RFID_WriteKillPassword", sim::kOpWriteKillPassword, "writeData", nullptr);
+  return sim::answerAccess(call, handle, "RFID_WriteKillPassword",
+                           sim::kOpWriteKillPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
@@ -317,7 +327,8 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return sim::answerAccess(call, handle, "RFID_WriteTagID", sim::kOpWriteTagId, "writeData", nullptr);
+  return sim::answerAccess(call, handle, "RFID_WriteTagID",
+                           sim::kOpWriteTagId, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 // The one chip command without a tag ID.

@@ -194,7 +194,9 @@ std::string describeTarget(const AccessTarget& target) {
   if (target.filter) text += " that the access filter admits";
   text += " on antenna";
   if (target.antennas.size() != 1) text += "s";
-  for (size_t i = 0; i < target.antennas.size(); ++i) text += (i == 0 ? " " : ", ") + std::to_string(target.antennas[i]);
+  for (size_t i = 0; i < target.antennas.size(); ++i) {
+    text += (i == 0 ? " " : ", ") + std::to_string(target.antennas[i]);
+  }
   return text;
 }
 

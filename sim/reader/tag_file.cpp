@@ -173,8 +173,8 @@ std::set<uint16_t> parsePermalock(const std::string& text, size_t userBytes) {
   for (const std::string& item : splitList(text.substr(prefix.size()))) {
     const size_t dash = item.find('-');
     const long first = parseNumber("PERMALOCK block", item.substr(0, dash), 0, words - 1);
-    const long last = dash == std::string::npos ? first
-                                                : parseNumber("PERMALOCK block", item.substr(dash + 1), first, words - 1);
+    const long last =
+        dash == std::string::npos ? first : parseNumber("PERMALOCK block", item.substr(dash + 1), first, words - 1);
     for (long b = first; b <= last; ++b) blocks.insert(static_cast<uint16_t>(b));
   }
   return blocks;

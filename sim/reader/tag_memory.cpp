@@ -88,7 +88,8 @@ std::optional<TagAnswer> readRefused(const SimTag& tag, uint32_t bank, size_t fr
       return fail(kMemoryLocked, std::string("the ") + lockFieldName(field) + " is permalocked");
     }
     if (state == LockState::kLocked && !secured(tag, password)) {
-      return fail(kPasswordMismatch, std::string("the ") + lockFieldName(field) + " is locked: the access password is needed");
+      return fail(kPasswordMismatch,
+                  std::string("the ") + lockFieldName(field) + " is locked: the access password is needed");
     }
   }
   return std::nullopt;
