@@ -75,6 +75,9 @@ TagAnswer writeField(SimTag& tag, size_t at, const AccessOperation& o) {
 
 TagAnswer applyOperation(SimTag& tag, const AccessOperation& o) {
   const Blob& p = o.params;
+  const bool takesRecord = o.op <= kOpNxpResetReadProtect || (o.op >= kOpQtWrite && o.op <= kOpCrypto) ||
+                           o.op >= kOpWriteAccessPassword;
+  if (!takesRecord) return touch(tag, 0);  // the EAS alarm, calibrate and reserved codes
   if (!p.present || p.faulted) return refused("no parameter record");
   switch (o.op) {
     case kOpRead:
@@ -132,9 +135,8 @@ TagAnswer applyOperation(SimTag& tag, const AccessOperation& o) {
     case kOpAuthenticate:
     case kOpReadBuffer:
     case kOpCrypto:
-      return touch(tag, fieldAt<uint32_t>(p, gen2v2PasswordAt(o.op)));
     default:
-      return touch(tag, 0);
+      return touch(tag, fieldAt<uint32_t>(p, gen2v2PasswordAt(o.op)));
   }
 }
 
