@@ -309,8 +309,10 @@ TagAnswer writeTagId(SimTag& tag, const Bytes& epc, uint32_t password) {
     return fail(kInvalidParam, "a tag ID is 1 to 31 whole words, not " + std::to_string(epc.size()) + " bytes");
   }
   const uint16_t pc = static_cast<uint16_t>((tag.pc & 0x07FF) | pcForEpcLength(epc.size()));
-  Bytes words = {static_cast<uint8_t>(pc >> 8), static_cast<uint8_t>(pc)};
-  words.insert(words.end(), epc.begin(), epc.end());
+  Bytes words(2 + epc.size());
+  words[0] = static_cast<uint8_t>(pc >> 8);
+  words[1] = static_cast<uint8_t>(pc);
+  std::copy(epc.begin(), epc.end(), words.begin() + 2);
   return writeMemory(tag, kBankEpc, 2, words, password);
 }
 
