@@ -20,6 +20,20 @@ FreshReader::~FreshReader() {
   sim::resetSimulator();
 }
 
+std::vector<Val> buildArguments(Jvm& jvm, const Native& n, const Overrides& overrides, jint reader) {
+  std::vector<Val> args;
+  for (const Param& p : n.params) args.push_back(defaultArgument(jvm, p, reader));
+  for (const auto& [path, value] : overrides) {
+    const size_t dot = path.find('.');
+    Val& arg = args.at(std::stoul(path.substr(0, dot)));
+    if (dot == std::string::npos)
+      arg = value;
+    else
+      jvm.set(jvm.value(arg), path.substr(dot + 1), value);
+  }
+  return args;
+}
+
 NativeRun runNative(Jvm& jvm, const Native& n, std::vector<Val> args, jint reader) {
   for (size_t i = args.size(); i < n.params.size(); ++i) args.push_back(defaultArgument(jvm, n.params[i], reader));
   const size_t writesBefore = jvm.writes();

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "fake_jvm.h"
@@ -34,6 +35,13 @@ class FreshReader {
  private:
   jint handle_;
 };
+
+// Java values that differ from the model's defaults: "2" is the third Java
+// argument, "2.a.b" a field along a path from it.
+using Overrides = std::vector<std::pair<std::string, Val>>;
+
+// The native's arguments: the defaults of the model, then the overrides.
+std::vector<Val> buildArguments(Jvm& jvm, const Native& n, const Overrides& overrides, jint reader);
 
 // Runs `n` with `args` (defaults of the model where args is shorter). Blocks
 // the library keeps are left allocated: the caller counts them, then calls

@@ -8,13 +8,13 @@
 #include <utility>
 #include <vector>
 
-#include "fake_jvm.h"
+#include "native_run.h"
 
 namespace jt {
 
 struct Row {
   std::string method;
-  std::vector<std::pair<std::string, Val>> args;  // "2" an argument, "2.a.b" a field of it (0-based)
+  Overrides args;
   std::string kept;                               // blocks never freed, by size: "[1" array of 1 byte, "40" record
   int keptPins = 0;                               // arrays pinned and never released
   int keptChars = 0;                              // UTF characters got and never released

@@ -16,20 +16,6 @@ namespace {
 
 constexpr int32_t kFailure = sim::kOutOfMemory;
 
-std::vector<Val> argumentsFor(Jvm& jvm, const Native& n, const Row& row, jint reader) {
-  std::vector<Val> args;
-  for (const Param& p : n.params) args.push_back(defaultArgument(jvm, p, reader));
-  for (const auto& [path, value] : row.args) {
-    const size_t dot = path.find('.');
-    Val& arg = args.at(std::stoul(path.substr(0, dot)));
-    if (dot == std::string::npos)
-      arg = value;
-    else
-      jvm.set(jvm.value(arg), path.substr(dot + 1), value);
-  }
-  return args;
-}
-
 // Runs the row's native with every C function of `scripted` answering `status`.
 NativeRun runRow(const Row& row, const std::vector<std::string>& scripted, int32_t status) {
   FreshReader reader;
@@ -37,7 +23,7 @@ NativeRun runRow(const Row& row, const std::vector<std::string>& scripted, int32
   Jvm jvm;
   jvm.nullReferencesExpected = row.nullReads > 0;
   const Native& n = Library::get().native(row.method);
-  return runNative(jvm, n, argumentsFor(jvm, n, row, reader.handle()), reader.handle());
+  return runNative(jvm, n, buildArguments(jvm, n, row.args, reader.handle()), reader.handle());
 }
 
 std::string keptBlocks(const NativeRun& r) {
