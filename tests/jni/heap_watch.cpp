@@ -124,6 +124,20 @@ void HeapWatch::releaseKept() {
 
 void* operator new(size_t size) { return jt::allocate(size, false, __builtin_return_address(0)); }
 void* operator new[](size_t size) { return jt::allocate(size, true, __builtin_return_address(0)); }
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+  try {
+    return jt::allocate(size, false, __builtin_return_address(0));
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+void* operator new[](size_t size, const std::nothrow_t&) noexcept {
+  try {
+    return jt::allocate(size, true, __builtin_return_address(0));
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
 void operator delete(void* block) noexcept { jt::release(block, false, __builtin_return_address(0)); }
 void operator delete[](void* block) noexcept { jt::release(block, true, __builtin_return_address(0)); }
 void operator delete(void* block, size_t) noexcept { jt::release(block, false, __builtin_return_address(0)); }

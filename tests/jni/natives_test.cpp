@@ -52,7 +52,10 @@ void expectReleases(const Row& row, const NativeRun& r) {
   }
   EXPECT_EQ(row.earlyFrees, early) << "blocks freed before the C call";
   int nullReads = 0;
-  for (const std::string& line : r.lines) nullReads += line.find(" on null") != std::string::npos;
+  for (const std::string& line : r.lines) {
+    nullReads += line.find(" on null") != std::string::npos;
+    EXPECT_EQ(std::string::npos, line.find("unknown block")) << line << ": not a block of the library";
+  }
   EXPECT_EQ(row.nullReads, nullReads) << "JNI calls on null references";
 }
 
