@@ -168,7 +168,8 @@ void fillTable(JNINativeInterface_& table) {
     if (field == nullptr) return;
     field->set = true;
     field->ref = obj(v);
-    const std::string shown = obj(v) != nullptr && obj(v)->kind == Obj::String ? "\"" + obj(v)->text + "\"" : idOf(obj(v));
+    const bool text = obj(v) != nullptr && obj(v)->kind == Obj::String;
+    const std::string shown = text ? "\"" + obj(v)->text + "\"" : idOf(obj(v));
     Timeline::record("SetObjectField " + obj(o)->cls + "." + fid(f).name + "=" + shown);
   };
   JT_FIELD(Boolean, jboolean, 'Z')

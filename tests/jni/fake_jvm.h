@@ -89,7 +89,7 @@ class Jvm {
   int64_t defaultNumber = 2;
   int64_t defaultBoolean = 1;
   size_t defaultLength = 64;
-  std::string defaultText = "0011223344556677";
+  std::string defaultText = "30AB";  // hexadecimal text of defaultNumber bytes
   // JNI calls on null references are logged ("... on null") instead of
   // failing the test.
   bool nullReferencesExpected = false;
