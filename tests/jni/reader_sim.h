@@ -7,10 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "journal.h"
-#include "session.h"
-#include "status.h"
-#include "tag_record.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
+#include "record/journal.h"
 
 namespace jt {
 

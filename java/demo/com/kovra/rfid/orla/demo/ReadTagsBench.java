@@ -21,7 +21,7 @@ public final class ReadTagsBench {
     public static void main(String[] args) {
         OrlaLibrary.load();
         SimControl.reset();
-        SimControl.keepJournal(false);
+        SimControl.record(false);
         long[] handleOut = new long[1];
         int status = ORLANatives.RFID_Connect(handleOut, "bench", 0, 0, new CONNECTION_INFO());
         if (status != 0) {
