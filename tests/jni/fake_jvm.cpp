@@ -28,23 +28,15 @@ const Jvm::FieldId& fid(jfieldID f) { return *reinterpret_cast<const Jvm::FieldI
 std::string idOf(const Obj* o) { return o == nullptr ? "null" : o->cls + "#" + std::to_string(o->id); }
 
 size_t elementSize(char type) {
-  switch (type) {
-    case 'Z': case 'B': return 1;
-    case 'S': return 2;
-    case 'I': return 4;
-    case 'J': return 8;
-    default: return 0;
-  }
+  return type == 'Z' || type == 'B' ? 1 : type == 'S' ? 2 : type == 'I' ? 4 : type == 'J' ? 8 : 0;
 }
 
+// An element of a pinned copy (little-endian), sign-extended except booleans.
 int64_t readElement(const uint8_t* p, char type) {
-  switch (type) {
-    case 'Z': return *p;
-    case 'B': return static_cast<int8_t>(*p);
-    case 'S': { int16_t v; std::memcpy(&v, p, 2); return v; }
-    case 'I': { int32_t v; std::memcpy(&v, p, 4); return v; }
-    default: { int64_t v; std::memcpy(&v, p, 8); return v; }
-  }
+  uint64_t bits = 0;
+  std::memcpy(&bits, p, elementSize(type));
+  const int unused = 64 - 8 * static_cast<int>(elementSize(type));
+  return type == 'Z' ? static_cast<int64_t>(bits) : static_cast<int64_t>(bits << unused) >> unused;
 }
 
 // Names of the JNINativeInterface_ slots, from the jni.h the test was built with.
@@ -100,50 +92,57 @@ Obj::Field* typedField(JNIEnv* env, jobject o, jfieldID f, const char* fn, bool 
   return &field;
 }
 
+// "Int" for 'I': the type's part of the names of the JNI functions.
+std::string typeName(char sig) {
+  static const std::map<char, std::string> names = {{'Z', "Boolean"}, {'B', "Byte"}, {'S', "Short"},
+                                                    {'I', "Int"},     {'J', "Long"}, {'F', "Float"}};
+  return names.at(sig);
+}
+
 template <typename T, char Sig>
-T getField(JNIEnv* env, jobject o, jfieldID f, const char* fn) {
-  Obj::Field* field = typedField<Sig>(env, o, f, fn, false);
+T getField(JNIEnv* env, jobject o, jfieldID f) {
+  const std::string fn = "Get" + typeName(Sig) + "Field";
+  Obj::Field* field = typedField<Sig>(env, o, f, fn.c_str(), false);
   if (field == nullptr) return T{};
-  Timeline::record(std::string(fn) + " " + obj(o)->cls + "." + fid(f).name);
+  Timeline::record(fn + " " + obj(o)->cls + "." + fid(f).name);
   return static_cast<T>(field->number);
 }
 
 template <typename T, char Sig>
-void setField(JNIEnv* env, jobject o, jfieldID f, T value, const char* fn) {
-  Obj::Field* field = typedField<Sig>(env, o, f, fn, true);
+void setField(JNIEnv* env, jobject o, jfieldID f, T value) {
+  const std::string fn = "Set" + typeName(Sig) + "Field";
+  Obj::Field* field = typedField<Sig>(env, o, f, fn.c_str(), true);
   if (field == nullptr) return;
   field->set = true;
   field->number = static_cast<int64_t>(value);
-  Timeline::record(std::string(fn) + " " + obj(o)->cls + "." + fid(f).name + "=" + std::to_string(field->number));
+  Timeline::record(fn + " " + obj(o)->cls + "." + fid(f).name + "=" + std::to_string(field->number));
 }
 
-#define JT_FIELD(Type, JType, Sig)                                                                       \
-  table.Get##Type##Field = [](JNIEnv* e, jobject o, jfieldID f) {                                       \
-    return getField<JType, Sig>(e, o, f, "Get" #Type "Field");                                          \
-  };                                                                                                    \
-  table.Set##Type##Field = [](JNIEnv* e, jobject o, jfieldID f, JType v) {                              \
-    setField<JType, Sig>(e, o, f, v, "Set" #Type "Field");                                              \
-  };
-
-template <typename T>
-T* pinArray(JNIEnv* env, jarray a, jboolean* isCopy, const char* fn) {
+template <typename T, typename A, char Sig>
+T* pinArray(JNIEnv* env, A a, jboolean* isCopy) {
+  const std::string fn = "Get" + typeName(Sig) + "ArrayElements";
   if (isCopy != nullptr) *isCopy = JNI_TRUE;
-  if (!present(env, obj(a), fn)) return nullptr;
+  if (!present(env, obj(a), fn.c_str())) return nullptr;
   return static_cast<T*>(jvmOf(env).pin(obj(a), fn));
 }
 
-template <typename T>
-void unpinArray(JNIEnv* env, jarray a, T* data, jint mode, const char* fn) {
-  if (present(env, obj(a), fn)) jvmOf(env).unpin(obj(a), data, fn, mode);
+template <typename T, typename A, char Sig>
+void unpinArray(JNIEnv* env, A a, T* data, jint mode) {
+  const std::string fn = "Release" + typeName(Sig) + "ArrayElements";
+  if (present(env, obj(a), fn.c_str())) jvmOf(env).unpin(obj(a), data, fn, mode);
 }
 
-#define JT_ARRAY(Type, JType, JArray)                                                                     \
-  table.Get##Type##ArrayElements = [](JNIEnv* e, JArray a, jboolean* c) {                                 \
-    return pinArray<JType>(e, a, c, "Get" #Type "ArrayElements");                                         \
-  };                                                                                                      \
-  table.Release##Type##ArrayElements = [](JNIEnv* e, JArray a, JType* d, jint m) {                        \
-    unpinArray<JType>(e, a, d, m, "Release" #Type "ArrayElements");                                       \
-  };
+template <typename T, char Sig>
+void setFieldCalls(T (*&get)(JNIEnv*, jobject, jfieldID), void (*&set)(JNIEnv*, jobject, jfieldID, T)) {
+  get = &getField<T, Sig>;
+  set = &setField<T, Sig>;
+}
+
+template <typename T, typename A, char Sig>
+void setArrayCalls(T* (*&get)(JNIEnv*, A, jboolean*), void (*&release)(JNIEnv*, A, T*, jint)) {
+  get = &pinArray<T, A, Sig>;
+  release = &unpinArray<T, A, Sig>;
+}
 
 void fillTable(JNINativeInterface_& table) {
   trapAll(table, std::make_index_sequence<sizeof(JNINativeInterface_) / sizeof(void*)>());
@@ -172,12 +171,12 @@ void fillTable(JNINativeInterface_& table) {
     const std::string shown = text ? "\"" + obj(v)->text + "\"" : idOf(obj(v));
     Timeline::record("SetObjectField " + obj(o)->cls + "." + fid(f).name + "=" + shown);
   };
-  JT_FIELD(Boolean, jboolean, 'Z')
-  JT_FIELD(Byte, jbyte, 'B')
-  JT_FIELD(Short, jshort, 'S')
-  JT_FIELD(Int, jint, 'I')
-  JT_FIELD(Long, jlong, 'J')
-  JT_FIELD(Float, jfloat, 'F')
+  setFieldCalls<jboolean, 'Z'>(table.GetBooleanField, table.SetBooleanField);
+  setFieldCalls<jbyte, 'B'>(table.GetByteField, table.SetByteField);
+  setFieldCalls<jshort, 'S'>(table.GetShortField, table.SetShortField);
+  setFieldCalls<jint, 'I'>(table.GetIntField, table.SetIntField);
+  setFieldCalls<jlong, 'J'>(table.GetLongField, table.SetLongField);
+  setFieldCalls<jfloat, 'F'>(table.GetFloatField, table.SetFloatField);
   table.GetStringLength = [](JNIEnv* env, jstring s) -> jsize {
     if (!present(env, obj(s), "GetStringLength")) return 0;
     Timeline::record("GetStringLength " + idOf(obj(s)));
@@ -211,11 +210,11 @@ void fillTable(JNINativeInterface_& table) {
     }
     return ref(obj(a)->elements[i]);
   };
-  JT_ARRAY(Boolean, jboolean, jbooleanArray)
-  JT_ARRAY(Byte, jbyte, jbyteArray)
-  JT_ARRAY(Short, jshort, jshortArray)
-  JT_ARRAY(Int, jint, jintArray)
-  JT_ARRAY(Long, jlong, jlongArray)
+  setArrayCalls<jboolean, jbooleanArray, 'Z'>(table.GetBooleanArrayElements, table.ReleaseBooleanArrayElements);
+  setArrayCalls<jbyte, jbyteArray, 'B'>(table.GetByteArrayElements, table.ReleaseByteArrayElements);
+  setArrayCalls<jshort, jshortArray, 'S'>(table.GetShortArrayElements, table.ReleaseShortArrayElements);
+  setArrayCalls<jint, jintArray, 'I'>(table.GetIntArrayElements, table.ReleaseIntArrayElements);
+  setArrayCalls<jlong, jlongArray, 'J'>(table.GetLongArrayElements, table.ReleaseLongArrayElements);
 }
 
 }  // namespace

@@ -53,6 +53,14 @@ void* allocate(size_t size, bool array, const void* caller) {
   return block;
 }
 
+void* allocateOrNull(size_t size, bool array, const void* caller) noexcept {
+  try {
+    return allocate(size, array, caller);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 void release(void* block, bool array, const void* caller) {
   if (block != nullptr && fromLibrary(caller)) {
     busy = true;
@@ -122,21 +130,14 @@ void HeapWatch::releaseKept() {
 
 }  // namespace jt
 
+// Each passes on its caller (code of the library, or not).
 void* operator new(size_t size) { return jt::allocate(size, false, __builtin_return_address(0)); }
 void* operator new[](size_t size) { return jt::allocate(size, true, __builtin_return_address(0)); }
 void* operator new(size_t size, const std::nothrow_t&) noexcept {
-  try {
-    return jt::allocate(size, false, __builtin_return_address(0));
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
+  return jt::allocateOrNull(size, false, __builtin_return_address(0));
 }
 void* operator new[](size_t size, const std::nothrow_t&) noexcept {
-  try {
-    return jt::allocate(size, true, __builtin_return_address(0));
-  } catch (const std::bad_alloc&) {
-    return nullptr;
-  }
+  return jt::allocateOrNull(size, true, __builtin_return_address(0));
 }
 void operator delete(void* block) noexcept { jt::release(block, false, __builtin_return_address(0)); }
 void operator delete[](void* block) noexcept { jt::release(block, true, __builtin_return_address(0)); }

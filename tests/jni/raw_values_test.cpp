@@ -19,12 +19,9 @@ sim::Call callWith(const std::string& method, const Overrides& overrides, const 
 }
 
 uint8_t byteAt(const sim::Call& call, const std::string& blob, size_t offset) {
-  auto it = call.blobs.find(blob);
-  if (it == call.blobs.end() || it->second.bytes.size() <= offset) {
-    ADD_FAILURE() << call.fn << ": no byte " << offset << " of " << blob;
-    return 0xEE;
-  }
-  return it->second.bytes[offset];
+  const std::vector<uint8_t> bytes = blobOf(call, blob);
+  EXPECT_LT(offset, bytes.size()) << call.fn << " " << blob;
+  return offset < bytes.size() ? bytes[offset] : 0xEE;
 }
 
 struct BooleanCase {
@@ -146,7 +143,7 @@ TEST(ExtraTriggers, TheLastStartAndStopSlotsAreFilled) {
     jvm.set(extra, "startTrigger", starts);
     jvm.set(extra, "stopTrigger", stops);
     runNative(jvm, n, args, reader.handle());
-    const std::vector<uint8_t> block = captured(method, "triggerInfo.extraTriggers");
+    const std::vector<uint8_t> block = blobOf(lastCall(method), "triggerInfo.extraTriggers");
     ASSERT_EQ(256u, block.size()) << method;
     const std::vector<uint8_t> start(block.begin() + 144, block.begin() + 160);
     const std::vector<uint8_t> stop(block.begin() + 240, block.begin() + 252);

@@ -2,6 +2,8 @@
 // the simulator's headers.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -18,9 +20,17 @@ namespace jt {
 inline size_t cCallCount() { return sim::callNames().size(); }
 
 // The last journalled call of fn; fails the test when there is none.
-sim::Call lastCall(const std::string& fn);
+inline sim::Call lastCall(const std::string& fn) {
+  sim::Call call;
+  if (!sim::findCall(fn, -1, &call)) ADD_FAILURE() << "no call of " << fn;
+  return call;
+}
 
-// Captured blob of fn's last call; fails the test when absent.
-std::vector<uint8_t> captured(const std::string& fn, const std::string& blob);
+// A blob of that call; fails the test when it is absent.
+inline std::vector<uint8_t> blobOf(const sim::Call& call, const std::string& name) {
+  auto it = call.blobs.find(name);
+  if (it == call.blobs.end() || !it->second.present) ADD_FAILURE() << call.fn << ": no blob " << name;
+  return it == call.blobs.end() ? std::vector<uint8_t>{} : it->second.bytes;
+}
 
 }  // namespace jt
