@@ -4,6 +4,8 @@
 // captured, at the C API's offsets.
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 #include "native_run.h"
 
 namespace jt {
@@ -34,6 +36,9 @@ struct BooleanCase {
   bool normalised;   // 0 or 1; otherwise the Java byte as it stands
   Overrides setup;
 };
+
+// gtest names the case after its native and boolean; its bytes say nothing.
+void PrintTo(const BooleanCase& c, std::ostream* os) { *os << c.method << " " << c.java; }
 
 const BooleanCase kBooleans[] = {
     {"RFID_Login", "3", "RFID_LoginW", 3, "", 0, true, {}},
