@@ -158,6 +158,15 @@ class TagMemoryTest extends NativeTest {
         assertEquals("CAFE44", read(OPEN, MEMORY_BANK.MEMORY_BANK_USER, 2, 3, 0), "after a reconnect");
         assertNull(SimReader.loadTags(TAGS));
         assertEquals("0011223344556677", read(OPEN, MEMORY_BANK.MEMORY_BANK_USER, 0, 0, 0), "a reload restores");
+
+        TAG_DATA tag = new TAG_DATA();
+        assertEquals(0, ORLANatives.RFID_Read(reader, OPEN, 12, readParams(MEMORY_BANK.MEMORY_BANK_USER, 6, 2, 0),
+                null, null, tag, null, null, true));
+        assertArrayEquals(new Object[] {OPEN, 0, 0, 3, 6, "6677", (short) 1, (short) -40},
+                new Object[] {tag.tagID, tag.enumOPCode, tag.enumOPStatus, tag.enumMemoryBank,
+                    tag.memoryBankDataByteOffset, tag.memoryBankData, tag.antennaID, tag.peakRSSI},
+                "the result tag: the tag, the operation and its data, seen at the tag's own level");
+        assertEquals(0, SimReader.liveTagRecords(reader), "the result tag was given back");
     }
 
     /** A reader's refusals, in order on the same tags: the status, and the last error that explains it. */
