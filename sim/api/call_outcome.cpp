@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "reader/last_error.h"
 #include "reader/status.h"
 
 namespace sim {
@@ -12,6 +13,7 @@ CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable) {
   outcome.reader = findReader(handle);
   if (outcome.status == kSuccess && !outcome.reader) outcome.status = kInvalidHandle;
   if (outcome.status == kSuccess && !readable) outcome.status = kInvalidParam;
+  rememberFailure(handle, outcome.status, rec.fn().c_str());
   return outcome;
 }
 

@@ -7,26 +7,17 @@
 #include "api/c_api.h"
 #include "api/call_outcome.h"
 #include "reader/operation.h"
+#include "reader/antenna_selection.h"
+#include "reader/last_error.h"
 #include "reader/status.h"
 
 namespace sim {
 namespace {
 
-// The antennas a captured ANTENNA_INFO selects; empty (every antenna) for a
-// NULL record, a NULL list or a length of 0.
-std::vector<uint16_t> readAntennas(const Recorder& rec, const std::string& name) {
-  const Blob& list = rec.captured(name + ".antennaList");
-  std::vector<uint16_t> antennas;
-  for (size_t at = 0; at + 2 <= list.bytes.size(); at += 2) {
-    antennas.push_back(fieldAt<uint16_t>(list, at));
-  }
-  return antennas;
-}
-
 OperationPlan planFor(OperationKind kind, const Recorder& rec) {
   OperationPlan plan;
   plan.kind = kind;
-  plan.antennas = readAntennas(rec, "antennaInfo");
+  plan.antennas = antennaList(capturedOf(rec), "antennaInfo");
   plan.triggers = readTriggers(rec.captured("triggerInfo"));
   return plan;
 }
@@ -34,14 +25,15 @@ OperationPlan planFor(OperationKind kind, const Recorder& rec) {
 int32_t start(Recorder& rec, int64_t handle, bool readable, OperationPlan plan) {
   const CallOutcome call = finishCall(rec, handle, readable);
   if (!call.proceeds()) return call.status;
-  return startOperation(call.reader, std::move(plan));
+  return rememberFailure(handle, startOperation(call.reader, std::move(plan)), rec.fn().c_str(),
+                         "the reader already runs an inventory, locate, EAS scan or access sequence");
 }
 
 int32_t stop(const char* fn, int64_t handle, OperationKind kind) {
   Recorder rec(fn, {raw(handle)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
-  return stopOperation(*call.reader, kind);
+  return rememberFailure(handle, stopOperation(*call.reader, kind), fn, "no such operation is running");
 }
 
 }  // namespace

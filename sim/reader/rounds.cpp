@@ -18,6 +18,8 @@ int randomIn(Reader& reader, int low, int high) {
 
 SeenStamp stampNow(const Reader& reader) { return {utcNow(), reader.upTimeMicros()}; }
 
+}  // namespace
+
 TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna) {
   TagRead read;
   read.epc = tag.epc;
@@ -34,6 +36,8 @@ TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna) {
   return read;
 }
 
+namespace {
+
 bool passesWarningLevel(size_t before, size_t after, uint32_t maxTags) {
   const size_t level = std::max<size_t>(1, static_cast<size_t>(maxTags) * 9 / 10);
   return before < level && after >= level;
@@ -47,20 +51,28 @@ std::vector<Bytes> inventoryRound(Reader& reader, const Population& tags,
                                   const std::vector<uint16_t>& antennas,
                                   const std::optional<PostFilterRule>& postFilter) {
   const std::vector<PreFilterRule> rules = reader.preFilterRules();
+  std::vector<TagRead> reads;
+  for (uint16_t antenna : antennas) {
+    for (const SimTag& tag : tags) {
+      if (!tag.inFieldOf(antenna) || !selectedByPreFilters(rules, tag, antenna)) continue;
+      TagRead r = makeRead(reader, tag, antenna);
+      if (postFilter && !postFilter->admits(tag, r.peakRssi)) continue;
+      reads.push_back(std::move(r));
+    }
+  }
+  return bufferReads(reader, reads);
+}
+
+std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads) {
   const uint32_t maxTags = reader.storage.maxTagCount();
   const size_t before = reader.buffer.size();
   std::vector<Bytes> read;
   bool dropped = false;
-  for (uint16_t antenna : antennas) {
-    for (const SimTag& tag : tags) {
-      if (!tag.inFieldOf(antenna) || !selectedByPreFilters(rules, tag, antenna)) continue;
-      const TagRead r = makeRead(reader, tag, antenna);
-      if (postFilter && !postFilter->admits(tag, r.peakRssi)) continue;
-      if (reader.buffer.add(r, maxTags) == TagBuffer::Added::kDropped) {
-        dropped = true;
-      } else {
-        read.push_back(tag.epc);
-      }
+  for (const TagRead& r : reads) {
+    if (reader.buffer.add(r, maxTags) == TagBuffer::Added::kDropped) {
+      dropped = true;
+    } else {
+      read.push_back(r.epc);
     }
   }
   if (!read.empty()) raiseDataless(reader, kTagReadEvent);

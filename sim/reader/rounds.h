@@ -9,6 +9,7 @@
 #include "reader/filters.h"
 #include "reader/state.h"
 #include "reader/population.h"
+#include "reader/tag_read.h"
 
 namespace sim {
 
@@ -19,6 +20,15 @@ namespace sim {
 std::vector<Bytes> inventoryRound(Reader& reader, const Population& tags,
                                   const std::vector<uint16_t>& antennas,
                                   const std::optional<PostFilterRule>& postFilter);
+
+// Puts the reads into the buffer, signalling TAG_READ when there were any,
+// BUFFER_FULL when new ones were dropped and BUFFER_FULL_WARNING when the
+// buffer passed 90 %. Returns the EPCs buffered.
+std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads);
+
+// One sighting of the tag on the antenna (in its field): RSSI with jitter,
+// channel, phase, seen now. Under the reader's lock.
+TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna);
 
 // Reads the tag with that EPC on the selected antenna that hears it best,
 // with a location record, and signals TAG_READ. Returns the EPCs read.

@@ -17,22 +17,26 @@ void merge(TagRead& kept, const TagRead& again) {
 
 }  // namespace
 
+TagBuffer::Key TagBuffer::keyOf(const TagRead& read) {
+  return {read.epc, read.antenna, read.access ? read.access->sequenceIndex + 1 : 0};
+}
+
 TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
-  auto found = index_.find({read.epc, read.antenna});
+  auto found = index_.find(keyOf(read));
   if (found != index_.end()) {
     merge(*found->second, read);
     return Added::kUpdated;
   }
   if (reads_.size() >= maxReads) return Added::kDropped;
   reads_.push_back(read);
-  index_[{read.epc, read.antenna}] = std::prev(reads_.end());
+  index_[keyOf(read)] = std::prev(reads_.end());
   return Added::kNew;
 }
 
 std::optional<TagRead> TagBuffer::pop() {
   if (reads_.empty()) return std::nullopt;
   TagRead read = std::move(reads_.front());
-  index_.erase({read.epc, read.antenna});
+  index_.erase(keyOf(read));
   reads_.pop_front();
   return read;
 }

@@ -8,6 +8,7 @@
 #include <list>
 #include <map>
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -28,7 +29,10 @@ class TagBuffer {
   void clear();
 
  private:
-  using Key = std::pair<Bytes, uint16_t>;  // EPC and antenna
+  // EPC, antenna, and 0 for a read without an access result, else the
+  // access sequence index + 1: each operation's result is kept apart.
+  using Key = std::tuple<Bytes, uint16_t, uint32_t>;
+  static Key keyOf(const TagRead& read);
   std::list<TagRead> reads_;
   std::map<Key, std::list<TagRead>::iterator> index_;
 };

@@ -7,7 +7,8 @@
 //
 // Status: a status scripted for the function wins; otherwise an unknown
 // reader handle gives kInvalidHandle, a missing required pointer
-// kInvalidParam, and everything else kSuccess. Outputs are written whatever
+// kInvalidParam, and everything else kSuccess. A failure of a known reader
+// becomes its last error. Outputs are written whatever
 // the status (NULL ones skipped), so tests can prove that the library takes
 // nothing back from a failed call.
 #pragma once
@@ -23,6 +24,7 @@
 #include <vector>
 
 #include "record/journal.h"
+#include "reader/last_error.h"
 #include "reader/sessions.h"
 #include "reader/status.h"
 
@@ -92,6 +94,9 @@ class ApiCall {
 
   // Appends the journal entry and settles the status (see above).
   int32_t finish();
+  // After finish(): whether the test scripted the status (then it stands,
+  // and the call changes no reader state).
+  bool scripted() const { return scripted_; }
 
  private:
   Recorder recorder_;
@@ -99,6 +104,7 @@ class ApiCall {
   int64_t handle_ = 0;
   bool checksHandle_ = false;
   bool missing_ = false;
+  bool scripted_ = false;
   std::vector<std::string> names_;
 
   void captureOuts(std::initializer_list<Out> outs);
@@ -158,10 +164,13 @@ inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
 
 inline int32_t ApiCall::finish() {
   int32_t status = kSuccess;
-  if (recorder_.finish(&status)) return status;
-  if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
-  if (missing_) return kInvalidParam;
-  return kSuccess;
+  scripted_ = recorder_.finish(&status);
+  if (!scripted_) {
+    if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
+    if (missing_) status = kInvalidParam;
+  }
+  if (checksHandle_) rememberFailure(handle_, status, fn_);
+  return status;
 }
 
 }  // namespace sim

@@ -46,7 +46,10 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
   }
   const uint32_t kind = getEnumValueFromJobject(env, readerType, 0);
 
-  return handle.deliver(RFID_LoginW(handle.slot(), record.get(), kind, toCBool(flag), nullptr));
+  const RFID_STATUS status = RFID_LoginW(handle.slot(), record.get(), kind, toCBool(flag), nullptr);
+  // Login frees its record before the handle array is released.
+  record.reset();
+  return handle.deliver(status);
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Logout(JNIEnv*, jclass, jint readerHandle) {

@@ -157,7 +157,7 @@ Outcome RunSession(const Api& api, int64_t reader, uint16_t byteOffset) {
   // accessPassword at 8.
   const uint8_t tagID[] = {0x30, 0x34, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x03};
   Bytes params(48);
-  params.put<uint32_t>(0, 1).put<uint16_t>(4, byteOffset).put<uint16_t>(6, 4).put<uint32_t>(8, 0x12345678);
+  params.put<uint32_t>(0, 1).put<uint16_t>(4, byteOffset).put<uint16_t>(6, 4).put<uint32_t>(8, 0);
   void* tag = api.AllocateTag(reader);
   o.readStatus = api.Read(reader, tagID, sizeof tagID, params.data(), nullptr, antennaInfo.data(), tag, nullptr);
   if (tag != nullptr) {
