@@ -144,7 +144,7 @@ uint64_t Call(const FunctionSpec& fn, std::atomic<Forward>* cache, const uint64_
 
 // A function missing from the table (a build that let the two lists drift)
 // is still forwarded, traced without its arguments.
-const FunctionSpec& Spec(const char* name) {
+const FunctionSpec& describedFunction(const char* name) {
   const FunctionSpec* fn = sim::api::FindFunction(name);
   return fn != nullptr ? *fn : *new FunctionSpec{name, sim::api::Result::Status, {}};
 }
@@ -159,9 +159,9 @@ const FunctionSpec& Spec(const char* name) {
   extern "C" __attribute__((visibility("default"))) uint64_t name(uint64_t a0, uint64_t a1, uint64_t a2,      \
                                                                    uint64_t a3, uint64_t a4, uint64_t a5,      \
                                                                    uint64_t a6, uint64_t a7) {                \
-    static const FunctionSpec& fn = Spec(#name);                                                              \
+    static const FunctionSpec& fn = describedFunction(#name);                                                 \
     static std::atomic<Forward> real{nullptr};                                                                \
-    return Call(fn, &real, {a0, a1, a2, a3, a4, a5, a6, a7});                 \
+    return Call(fn, &real, {a0, a1, a2, a3, a4, a5, a6, a7});                                                 \
   }
 
 TRACED(RFID_AcceptConnection)
