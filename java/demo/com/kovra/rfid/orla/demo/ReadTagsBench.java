@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla.demo;
 
-import com.kovra.rfid.orla.CONNECTION_INFO;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.OrlaLibrary;
 import com.kovra.rfid.orla.TAG_DATA;
@@ -51,16 +50,11 @@ public final class ReadTagsBench {
     }
 
     public static void main(String[] args) {
-        int runs = StressRun.intOption(args, "--runs", 7);
+        int runs = RunSupport.intOption(args, "--runs", 7);
         OrlaLibrary.load();
         SimControl.reset();
         SimControl.keepJournal(false);
-        long[] handleOut = new long[1];
-        int status = ORLANatives.RFID_Connect(handleOut, "bench", 0, 0, new CONNECTION_INFO());
-        if (status != 0) {
-            throw new IllegalStateException("connect failed: " + status);
-        }
-        int reader = (int) handleOut[0];
+        int reader = RunSupport.connect("bench");
         byte[] record = tagRecord();
 
         System.out.printf("median of %d runs, ns; spread min-max; ratio of medians%n", runs);

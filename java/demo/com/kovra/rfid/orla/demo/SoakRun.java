@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla.demo;
 
-import com.kovra.rfid.orla.CONNECTION_INFO;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.OrlaLibrary;
 import com.kovra.rfid.orla.TAG_DATA;
@@ -29,18 +28,13 @@ public final class SoakRun {
     }
 
     public static void main(String[] args) throws IOException {
-        int calls = StressRun.intOption(args, "--calls", 1_000_000);
-        int every = StressRun.intOption(args, "--every", 100_000);
-        long toleranceKib = StressRun.intOption(args, "--tolerance-kib", 4 * 1024);
+        int calls = RunSupport.intOption(args, "--calls", 1_000_000);
+        int every = RunSupport.intOption(args, "--every", 100_000);
+        long toleranceKib = RunSupport.intOption(args, "--tolerance-kib", 4 * 1024);
         OrlaLibrary.load();
         SimControl.reset();
         SimControl.keepJournal(false);
-        long[] handleOut = new long[1];
-        int status = ORLANatives.RFID_Connect(handleOut, "soak", 0, 0, new CONNECTION_INFO());
-        if (status != 0) {
-            throw new IllegalStateException("connect failed: " + status);
-        }
-        int reader = (int) handleOut[0];
+        int reader = RunSupport.connect("soak");
         SimControl.setOutput("rfid_GetReadTags", ReadTagsBench.tagRecord());
         TAG_DATA[] tags = {new TAG_DATA()};
         int[] count = new int[1];

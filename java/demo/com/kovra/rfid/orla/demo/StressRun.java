@@ -1,6 +1,5 @@
 package com.kovra.rfid.orla.demo;
 
-import com.kovra.rfid.orla.CONNECTION_INFO;
 import com.kovra.rfid.orla.MEMORY_BANK;
 import com.kovra.rfid.orla.ORLANatives;
 import com.kovra.rfid.orla.OrlaLibrary;
@@ -49,8 +48,8 @@ public final class StressRun {
     }
 
     public static void main(String[] args) throws InterruptedException {
-        int threads = intOption(args, "--threads", 16);
-        int calls = intOption(args, "--calls", 100_000);
+        int threads = RunSupport.intOption(args, "--threads", 16);
+        int calls = RunSupport.intOption(args, "--calls", 100_000);
         OrlaLibrary.load();
         SimControl.reset();
         SimControl.keepJournal(false);
@@ -105,9 +104,7 @@ public final class StressRun {
     }
 
     private void run() {
-        long[] handleOut = new long[1];
-        expect("connect", ORLANatives.RFID_Connect(handleOut, "stress-" + thread, 0, 0, new CONNECTION_INFO()));
-        handle = (int) handleOut[0];
+        handle = RunSupport.connect("stress-" + thread);
         expect("inventory", ORLANatives.RFID_PerformInventory(handle, null, null, null));
         for (int i = 0; i < calls; i++) {
             step(i);
@@ -221,14 +218,5 @@ public final class StressRun {
         if (mismatches.incrementAndGet() <= 20) {
             System.err.printf("thread %d: %s%n", thread, what);
         }
-    }
-
-    static int intOption(String[] args, String name, int fallback) {
-        for (int i = 0; i + 1 < args.length; i++) {
-            if (args[i].equals(name)) {
-                return Integer.parseInt(args[i + 1]);
-            }
-        }
-        return fallback;
     }
 }

@@ -5,16 +5,14 @@ import com.kovra.rfid.orla.TAG_DATA;
 /**
  * The floors the benchmark measures the library against, in the simulator's library: what a
  * native cannot avoid doing, so that a ratio to it shows what the library adds.
- *
- * <p>The library is loaded as {@link SimControl} loads it.
  */
 public final class SimBench {
   static {
-    String path = System.getProperty("orla.sim");
-    if (path != null) {
-      System.load(new java.io.File(path).getAbsolutePath());
-    } else {
-      System.loadLibrary("halyard");
+    // The natives are in the simulator's library, which initialising SimControl loads.
+    try {
+      Class.forName(SimControl.class.getName(), true, SimBench.class.getClassLoader());
+    } catch (ClassNotFoundException e) {
+      throw new ExceptionInInitializerError(e);
     }
   }
 
