@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
-#include "journal.h"
-#include "session.h"
-#include "status.h"
+#include "record/journal.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 namespace {
 
@@ -105,6 +105,7 @@ class PowerNegotiationTest : public ::testing::Test {
  protected:
   void SetUp() override {
     sim::resetSimulator();
+    sim::record(true);
     library_ = dlopen(ORLA_JNI_LIBRARY, RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(nullptr, library_) << dlerror();
     reader_ = static_cast<jint>(sim::openSession());

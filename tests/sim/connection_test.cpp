@@ -7,11 +7,11 @@
 #include <memory>
 #include <vector>
 
-#include "connection.h"
-#include "journal.h"
-#include "record_bytes.h"
-#include "session.h"
-#include "status.h"
+#include "api/connect.h"
+#include "record/journal.h"
+#include "record/captured_fields.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 extern "C" {
 int32_t RFID_ConnectW(int64_t* handleOut, const wchar_t* hostName, uint32_t first, uint32_t second,
@@ -31,7 +31,10 @@ namespace {
 
 class ConnectionTest : public ::testing::Test {
  protected:
-  void SetUp() override { sim::resetSimulator(); }
+  void SetUp() override {
+    sim::resetSimulator();
+    sim::record(true);
+  }
   void TearDown() override { sim::resetSimulator(); }
 };
 

@@ -7,10 +7,10 @@
 #include <thread>
 #include <vector>
 
-#include "reader_c_api.h"
-#include "reader_events.h"
-#include "session.h"
-#include "status.h"
+#include "api/c_api.h"
+#include "reader/event_signals.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 #include <thread>
 #include <vector>
 
-#include "api_call.h"
-#include "journal.h"
-#include "record_bytes.h"
-#include "session.h"
-#include "status.h"
+#include "record/api_call.h"
+#include "record/journal.h"
+#include "record/captured_fields.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 extern "C" {
 int32_t RFID_ConnectW(int64_t* handleOut, const wchar_t* hostName, uint32_t, uint32_t, void* connInfo);
@@ -25,7 +25,10 @@ namespace {
 
 class JournalTest : public ::testing::Test {
  protected:
-  void SetUp() override { sim::resetSimulator(); }
+  void SetUp() override {
+    sim::resetSimulator();
+    sim::record(true);
+  }
   void TearDown() override { sim::resetSimulator(); }
 };
 

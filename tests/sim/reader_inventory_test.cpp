@@ -9,16 +9,16 @@
 #include <string>
 #include <vector>
 
-#include "journal.h"
-#include "reader_c_api.h"
-#include "reader_events.h"
-#include "reader_rounds.h"
-#include "reader_state.h"
-#include "record_bytes.h"
-#include "session.h"
-#include "status.h"
-#include "tag_population.h"
-#include "tag_record.h"
+#include "record/journal.h"
+#include "api/c_api.h"
+#include "reader/event_signals.h"
+#include "reader/rounds.h"
+#include "reader/state.h"
+#include "record/captured_fields.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
+#include "reader/population.h"
+#include "reader/tag_records.h"
 
 namespace {
 
@@ -94,6 +94,7 @@ class InventoryTest : public ::testing::Test {
  protected:
   void SetUp() override {
     sim::resetSimulator();
+    sim::record(true);
     ASSERT_EQ(sim::loadPopulation(kTags), "");
     reader = sim::openSession();
   }

@@ -8,13 +8,13 @@
 #include <set>
 #include <string>
 
-#include "journal.h"
-#include "reader_c_api.h"
-#include "record_bytes.h"
-#include "session.h"
-#include "status.h"
-#include "tag_population.h"
-#include "tag_record.h"
+#include "record/journal.h"
+#include "api/c_api.h"
+#include "record/captured_fields.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
+#include "reader/population.h"
+#include "reader/tag_records.h"
 
 namespace {
 

@@ -12,8 +12,8 @@ import org.junit.jupiter.api.BeforeEach;
 
 /**
  * Base of the tests that call the natives: loads the simulated reader API
- * and the JNI library once, and starts every test with an empty journal,
- * no scripted statuses and no open sessions. Also holds the fixtures the
+ * and the JNI library once, and starts every test with an empty journal
+ * that records every call, no scripted statuses and no open sessions. Also holds the fixtures the
  * test classes share: a connected reader, little-endian field reads of
  * captured records, and builders of Java objects and scripted records.
  */
@@ -35,6 +35,7 @@ public abstract class NativeTest {
     @BeforeEach
     void resetSimulator() {
         SimControl.reset();
+        SimControl.record(true);
     }
 
     /** Opens a session on the simulated reader and returns its handle. */

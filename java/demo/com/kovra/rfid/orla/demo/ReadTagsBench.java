@@ -53,7 +53,7 @@ public final class ReadTagsBench {
         int runs = RunSupport.intOption(args, "--runs", 7);
         OrlaLibrary.load();
         SimControl.reset();
-        SimControl.keepJournal(false);
+        SimControl.record(false);
         int reader = RunSupport.connect("bench");
         byte[] record = tagRecord();
 

@@ -33,7 +33,7 @@ public final class SoakRun {
         long toleranceKib = RunSupport.intOption(args, "--tolerance-kib", 4 * 1024);
         OrlaLibrary.load();
         SimControl.reset();
-        SimControl.keepJournal(false);
+        SimControl.record(false);
         int reader = RunSupport.connect("soak");
         SimControl.setOutput("rfid_GetReadTags", ReadTagsBench.tagRecord());
         TAG_DATA[] tags = {new TAG_DATA()};

@@ -52,7 +52,7 @@ public final class StressRun {
         int calls = RunSupport.intOption(args, "--calls", 100_000);
         OrlaLibrary.load();
         SimControl.reset();
-        SimControl.keepJournal(false);
+        SimControl.record(false);
         String problem = SimReader.loadTags(population(threads));
         if (problem != null) {
             throw new IllegalStateException("tag population: " + problem);

@@ -30,11 +30,26 @@ public final class SimControl {
 
   private SimControl() {}
 
-  /** Clears the journal, the scripts, the allocations and every session, then all reader state. */
+  /**
+   * Clears the journal, the dropped count, the scripts, the allocations and every session, then
+   * all reader state. Keeps the recording switch and the record capacity.
+   */
   public static native void reset();
 
-  /** Keeps (true, the default) or stops keeping journal entries; for long benchmark runs. */
-  public static native void keepJournal(boolean on);
+  /**
+   * Switches recording of calls into the journal on or off. Off by default (on when the
+   * environment has HALYARD_SIM_RECORD=1 as the library loads); scripts apply either way.
+   */
+  public static native void record(boolean on);
+
+  /**
+   * How many calls the journal keeps (1,000,000 by default); later calls are dropped and counted.
+   * A negative capacity throws IllegalArgumentException.
+   */
+  public static native void recordCapacity(int entries);
+
+  /** Calls dropped since the last reset because the journal was at its capacity. */
+  public static native long droppedCalls();
 
   /** An empty native method: the cost of a bare JNI call. */
   public static native void nop();

@@ -1,0 +1,368 @@
+// Tag access: single operations, chip-specific and Gen2v2 commands, access
+// sequences. Each records what it was sent (tag ID bytes, the operation's
+// parameter record with the buffer it points to, filter and antennas) and
+// writes a result tag only when a test scripted one.
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "record/api_call.h"
+#include "record/captures.h"
+#include "reader/memory_reads.h"
+#include "record/captured_fields.h"
+#include "reader/session_store.h"
+
+namespace sim {
+namespace {
+
+constexpr size_t kTagDataBytes = 192;
+constexpr size_t kAccessOperationBytes = 48;
+constexpr size_t kOperationParamsAt = 8;
+
+// A buffer a parameter record points to: the pointer's offset, the offset
+// of its 16-bit length, and how many length units make a byte.
+struct Pointee {
+  const char* name;
+  size_t pointerAt;
+  size_t lengthAt;
+  unsigned unitsPerByte;
+};
+
+constexpr Pointee kWriteData{"writeData", 8, 16, 1};
+constexpr Pointee kFieldWriteData{"writeData", 0, 8, 1};
+constexpr Pointee kPermalockMask{"mask", 16, 24, 1};
+constexpr Pointee kMessage{"pMessage", 8, 4, 8};  // length in bits
+
+struct ParamsLayout {
+  size_t bytes;
+  const Pointee* pointee;
+};
+
+constexpr ParamsLayout kReadParams{48, nullptr};
+constexpr ParamsLayout kWriteParams{56, &kWriteData};
+constexpr ParamsLayout kBlockEraseParams{48, nullptr};
+constexpr ParamsLayout kLockParams{56, nullptr};
+constexpr ParamsLayout kKillParams{40, nullptr};
+constexpr ParamsLayout kPermalockParams{64, &kPermalockMask};
+constexpr ParamsLayout kRecommissionParams{40, nullptr};
+constexpr ParamsLayout kWriteFieldParams{48, &kFieldWriteData};
+constexpr ParamsLayout kNxpParams{40, nullptr};
+constexpr ParamsLayout kQtReadParams{40, nullptr};
+constexpr ParamsLayout kQtWriteParams{80, nullptr};
+constexpr ParamsLayout kAuthenticateParams{56, &kMessage};
+constexpr ParamsLayout kUntraceableParams{56, nullptr};
+constexpr ParamsLayout kReadBufferParams{40, nullptr};
+constexpr ParamsLayout kCryptoParams{64, nullptr};
+
+void captureParams(ApiCall& call, const std::string& name, const void* params, ParamsLayout layout) {
+  call.blob(name, params, layout.bytes);
+  if (layout.pointee == nullptr) return;
+  const Blob& record = call.captured(name);
+  const Pointee& p = *layout.pointee;
+  call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
+}
+
+// The parameter record of an access-sequence operation, by operation code.
+ParamsLayout operationLayout(uint32_t opCode) {
+  switch (opCode) {
+    case 0: return kReadParams;
+    case 1: return kWriteParams;
+    case 2: return kLockParams;
+    case 3: return kKillParams;
+    case 4: return kWriteParams;
+    case 5: return kBlockEraseParams;
+    case 6: return kRecommissionParams;
+    case 7: return kPermalockParams;
+    case 8: case 9: case 10: return kNxpParams;
+    case 20: return kQtWriteParams;
+    case 21: return kQtReadParams;
+    case 22: return kNxpParams;
+    default: return {0, nullptr};
+  }
+}
+
+// An operation that is NULL or cannot be read, or whose parameter record
+// cannot be read, is refused with kInvalidParam.
+void captureOperation(ApiCall& call, const void* operation) {
+  call.blob("operation", operation, kAccessOperationBytes);
+  call.require(operation);
+  const Blob& record = call.captured("operation");
+  if (!record.present || record.faulted) {
+    call.require(nullptr);
+    return;
+  }
+  ParamsLayout layout = operationLayout(fieldAt<uint32_t>(record, 0));
+  if (layout.bytes == 0) return;
+  captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  if (call.captured("operation.params").faulted) call.require(nullptr);
+}
+
+// What a tag operation with an access filter is sent: the tag ID bytes, the
+// parameter record with the buffer it points to, the filter and the
+// antennas.
+void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLength, const void* params,
+                         ParamsLayout layout, const void* filter, const void* antenna) {
+  call.blob("tagID", tagID, tagIDLength);
+  captureParams(call, "params", params, layout);
+  captureFilter(call, "accessFilter", filter);
+  captureAntennaInfo(call, "antennaInfo", antenna);
+}
+
+int32_t answerWithTag(ApiCall& call, void* tag) {
+  call.outputsIfScripted({{tag, kTagDataBytes}});
+  return call.finish();
+}
+
+// The operations of a reader's access sequence, by the index each was
+// given when it was added; indices are not reused until the sequence is
+// initialised or discarded.
+struct AccessSequence {
+  uint32_t next = 0;
+  std::set<uint32_t> operations;
+};
+
+std::vector<uint8_t> nextOperationIndex(int64_t handle) {
+  AccessSequence sequence;
+  SessionStore<AccessSequence>::instance().get(handle, &sequence);
+  std::vector<uint8_t> index;
+  putField(&index, 0, sequence.next);
+  return index;
+}
+
+void countOperation(int64_t handle) {
+  SessionStore<AccessSequence>::instance().update(handle,
+                                                  [](AccessSequence& s) { s.operations.insert(s.next++); });
+}
+
+// False when the sequence holds no operation of that index.
+bool removeOperation(int64_t handle, uint32_t index) {
+  bool removed = false;
+  SessionStore<AccessSequence>::instance().update(handle,
+                                                  [&](AccessSequence& s) { removed = s.operations.erase(index) > 0; });
+  return removed;
+}
+
+// Initialising or discarding a sequence starts its indices over.
+int32_t answerClearingSequence(ApiCall& call, int64_t handle) {
+  int32_t status = call.finish();
+  if (status == kSuccess) SessionStore<AccessSequence>::instance().put(handle, AccessSequence());
+  return status;
+}
+
+}  // namespace
+}  // namespace sim
+
+using sim::ApiCall;
+
+extern "C" {
+// Single operations that return a tag: handle, tag ID, length, parameters,
+// filter, antennas, result tag, reserved.
+
+int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
+  return sim::answerRead(call, handle, tag);
+}
+
+int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                            void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                             void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                         void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                    void* antenna, void* tag, void* reserved) {
+  ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
+  return sim::answerWithTag(call, tag);
+}
+
+// Single operations without a result tag: handle, tag ID, length,
+// parameters, filter, antennas, reserved.
+
+int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                   void* antenna, void* reserved) {
+  ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* reserved) {
+  ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                        void* antenna, void* reserved) {
+  ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* reserved) {
+  ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                  void* antenna, void* reserved) {
+  ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                          void* antenna, void* reserved) {
+  ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                            void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                       void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  return call.finish();
+}
+
+int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
+                           void* antenna, void* reserved) {
+  ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
+  return call.finish();
+}
+
+// Writes of one tag field take no filter: handle, tag ID, length,
+// parameters, antennas, reserved.
+
+int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                                 void* reserved) {
+  ApiCall call("RFID_WriteAccessPassword", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return call.finish();
+}
+
+int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                               void* reserved) {
+  ApiCall call("RFID_WriteKillPassword", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return call.finish();
+}
+
+int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
+                        void* reserved) {
+  ApiCall call("RFID_WriteTagID", handle, tagID, tagIDLength, params, antenna, reserved);
+  call.blob("tagID", tagID, tagIDLength);
+  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return call.finish();
+}
+
+// The one chip command without a tag ID.
+int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, void* reserved) {
+  ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
+  sim::captureParams(call, "params", params, sim::kNxpParams);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  return call.finish();
+}
+
+int32_t RFID_InitializeAccessSequence(int64_t handle) {
+  ApiCall call("RFID_InitializeAccessSequence", handle);
+  return sim::answerClearingSequence(call, handle);
+}
+
+int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint32_t* index) {
+  ApiCall call("RFID_AddOperationToAccessSequence", handle, operation, index);
+  sim::captureOperation(call, operation);
+  call.outputs({{index, sizeof *index, "index"}}, sim::nextOperationIndex(handle));
+  int32_t status = call.finish();
+  if (status == sim::kSuccess) sim::countOperation(handle);
+  return status;
+}
+
+// An index the sequence does not hold answers kNotFound.
+int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
+  ApiCall call("RFID_DeleteOperationFromAccessSequence", handle, index);
+  int32_t status = call.finish();
+  if (status == sim::kSuccess && !sim::removeOperation(handle, index)) return sim::kNotFound;
+  return status;
+}
+
+int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, void* trigger, void* reserved) {
+  ApiCall call("RFID_PerformAccessSequence", handle, filter, antenna, trigger, reserved);
+  sim::captureFilter(call, "accessFilter", filter);
+  sim::captureAntennaInfo(call, "antennaInfo", antenna);
+  sim::captureTriggerInfo(call, "triggerInfo", trigger);
+  return call.finish();
+}
+
+int32_t RFID_StopAccessSequence(int64_t handle) {
+  ApiCall call("RFID_StopAccessSequence", handle);
+  return call.finish();
+}
+
+int32_t RFID_GetLastAccessResult(int64_t handle, uint32_t* first, uint32_t* second) {
+  ApiCall call("RFID_GetLastAccessResult", handle, first, second);
+  call.outputs({{first, sizeof *first, "first"}, {second, sizeof *second, "second"}});
+  return call.finish();
+}
+
+int32_t RFID_DeinitializeAccessSequence(int64_t handle) {
+  ApiCall call("RFID_DeinitializeAccessSequence", handle);
+  return sim::answerClearingSequence(call, handle);
+}
+
+}  // extern "C"

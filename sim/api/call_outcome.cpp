@@ -1,0 +1,34 @@
+#include "api/call_outcome.h"
+
+#include <cstring>
+
+#include "reader/status.h"
+
+namespace sim {
+
+CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable) {
+  CallOutcome outcome;
+  outcome.status = rec.finish();
+  outcome.reader = findReader(handle);
+  if (outcome.status == kSuccess && !outcome.reader) outcome.status = kInvalidHandle;
+  if (outcome.status == kSuccess && !readable) outcome.status = kInvalidParam;
+  return outcome;
+}
+
+void writeOutput(const std::string& fn, void* dst, const void* normal, size_t n) {
+  std::vector<uint8_t> scripted;
+  if (scriptedOutput(fn, &scripted)) {
+    writeOuts({{dst, n}}, scripted);
+  } else {
+    std::memcpy(dst, normal, n);
+  }
+}
+
+bool writeScriptedOutput(const std::string& fn, void* dst, size_t n) {
+  std::vector<uint8_t> scripted;
+  if (!scriptedOutput(fn, &scripted)) return false;
+  writeOuts({{dst, n}}, scripted);
+  return true;
+}
+
+}  // namespace sim

@@ -1,0 +1,102 @@
+// Natives of com.kovra.rfid.orla.sim.SimReader: the tag population, GPI
+// inputs, raised events and counters of the simulated reader, for tests.
+// An unknown reader handle or event type raises IllegalArgumentException.
+#include <jni.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "reader/event_signals.h"
+#include "reader/state.h"
+#include "reader/population.h"
+#include "reader/tag_records.h"
+
+namespace {
+
+void throwIllegalArgument(JNIEnv* env, const std::string& message) {
+  jclass cls = env->FindClass("java/lang/IllegalArgumentException");
+  if (cls != nullptr) env->ThrowNew(cls, message.c_str());
+}
+
+std::string text(JNIEnv* env, jstring s) {
+  if (s == nullptr) return {};
+  const char* chars = env->GetStringUTFChars(s, nullptr);
+  if (chars == nullptr) return {};
+  std::string copy(chars);
+  env->ReleaseStringUTFChars(s, chars);
+  return copy;
+}
+
+std::vector<uint8_t> bytes(JNIEnv* env, jbyteArray array) {
+  if (array == nullptr) return {};
+  std::vector<uint8_t> out(static_cast<size_t>(env->GetArrayLength(array)));
+  env->GetByteArrayRegion(array, 0, static_cast<jsize>(out.size()), reinterpret_cast<jbyte*>(out.data()));
+  return out;
+}
+
+// The reader's state, or nullptr with an exception pending.
+sim::ReaderPtr reader(JNIEnv* env, jlong handle) {
+  sim::ReaderPtr r = sim::findReader(handle);
+  if (!r) throwIllegalArgument(env, "no open reader session " + std::to_string(handle));
+  return r;
+}
+
+}  // namespace
+
+extern "C" {
+
+JNIEXPORT jstring JNICALL Java_com_kovra_rfid_orla_sim_SimReader_loadTags(JNIEnv* env, jclass, jstring tags) {
+  const std::string problem = sim::loadPopulation(text(env, tags));
+  return problem.empty() ? nullptr : env->NewStringUTF(problem.c_str());
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_useBuiltInTags(JNIEnv*, jclass) {
+  sim::useBuiltInPopulation();
+}
+
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_sim_SimReader_tagCount(JNIEnv*, jclass) {
+  return static_cast<jint>(sim::currentPopulation()->size());
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_setGpi(JNIEnv* env, jclass, jlong handle,
+                                                                    jint port, jboolean state) {
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return;
+  sim::recordGpiChange(*r, static_cast<uint16_t>(port), state != JNI_FALSE);
+  std::vector<uint8_t> data(16, 0);
+  sim::store<int16_t>(data.data(), 0, static_cast<int16_t>(port));
+  data[2] = state != JNI_FALSE ? 1 : 0;
+  sim::raiseEvent(handle, sim::kGpiEvent, std::move(data));
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_raiseEvent(JNIEnv* env, jclass, jlong handle,
+                                                                        jint type, jbyteArray data) {
+  if (type < 0 || !sim::isEventType(static_cast<uint32_t>(type))) {
+    throwIllegalArgument(env, "no event type " + std::to_string(type));
+    return;
+  }
+  if (!reader(env, handle)) return;
+  sim::raiseEvent(handle, static_cast<uint32_t>(type), bytes(env, data));
+}
+
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_sim_SimReader_liveTagRecords(JNIEnv*, jclass, jlong handle) {
+  return static_cast<jint>(sim::liveTagRecords(handle));
+}
+
+JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_sim_SimReader_bufferedReads(JNIEnv* env, jclass, jlong handle) {
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return 0;
+  std::lock_guard<std::mutex> lock(r->mutex);
+  return static_cast<jint>(r->buffer.size());
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_useUpTime(JNIEnv* env, jclass, jlong handle,
+                                                                       jboolean upTime) {
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return;
+  std::lock_guard<std::mutex> lock(r->mutex);
+  r->upTimeForm = upTime != JNI_FALSE;
+}
+
+}  // extern "C"

@@ -1,0 +1,118 @@
+#include "reader/rounds.h"
+
+#include <algorithm>
+
+#include "reader/event_signals.h"
+#include "reader/tag_read.h"
+
+namespace sim {
+namespace {
+
+constexpr int kRssiJitterDb = 2;
+constexpr int kChannelCount = 50;
+constexpr int kPhaseSteps = 4096;
+
+int randomIn(Reader& reader, int low, int high) {
+  return std::uniform_int_distribution<int>(low, high)(reader.random);
+}
+
+SeenStamp stampNow(const Reader& reader) { return {utcNow(), reader.upTimeMicros()}; }
+
+TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna) {
+  TagRead read;
+  read.epc = tag.epc;
+  read.pc = tag.pc;
+  read.xpc = tag.xpc;
+  read.crc = tag.crc;
+  read.antenna = antenna;
+  const int rssi = tag.rssiByAntenna.at(antenna) + randomIn(reader, -kRssiJitterDb, kRssiJitterDb);
+  read.peakRssi = static_cast<int8_t>(std::clamp(rssi, -128, 127));
+  read.channelIndex = static_cast<int16_t>(randomIn(reader, 1, kChannelCount));
+  read.phase = static_cast<int16_t>(randomIn(reader, 0, kPhaseSteps - 1));
+  read.seenCount = 1;
+  read.firstSeen = read.lastSeen = stampNow(reader);
+  return read;
+}
+
+bool passesWarningLevel(size_t before, size_t after, uint32_t maxTags) {
+  const size_t level = std::max<size_t>(1, static_cast<size_t>(maxTags) * 9 / 10);
+  return before < level && after >= level;
+}
+
+void raiseDataless(const Reader& reader, EventType type) { raiseEvent(reader.handle, type, {}); }
+
+}  // namespace
+
+std::vector<Bytes> inventoryRound(Reader& reader, const Population& tags,
+                                  const std::vector<uint16_t>& antennas,
+                                  const std::optional<PostFilterRule>& postFilter) {
+  const std::vector<PreFilterRule> rules = reader.preFilterRules();
+  const uint32_t maxTags = reader.storage.maxTagCount();
+  const size_t before = reader.buffer.size();
+  std::vector<Bytes> read;
+  bool dropped = false;
+  for (uint16_t antenna : antennas) {
+    for (const SimTag& tag : tags) {
+      if (!tag.inFieldOf(antenna) || !selectedByPreFilters(rules, tag, antenna)) continue;
+      const TagRead r = makeRead(reader, tag, antenna);
+      if (postFilter && !postFilter->admits(tag, r.peakRssi)) continue;
+      if (reader.buffer.add(r, maxTags) == TagBuffer::Added::kDropped) {
+        dropped = true;
+      } else {
+        read.push_back(tag.epc);
+      }
+    }
+  }
+  if (!read.empty()) raiseDataless(reader, kTagReadEvent);
+  if (passesWarningLevel(before, reader.buffer.size(), maxTags)) {
+    raiseDataless(reader, kBufferFullWarningEvent);
+  }
+  if (dropped) raiseDataless(reader, kBufferFullEvent);
+  return read;
+}
+
+std::vector<Bytes> locateRound(Reader& reader, const Population& tags,
+                               const std::vector<uint16_t>& antennas, const Bytes& epc) {
+  auto tag = std::find_if(tags.begin(), tags.end(), [&](const SimTag& t) { return t.epc == epc; });
+  if (tag == tags.end()) return {};
+  std::optional<TagRead> best;
+  for (uint16_t antenna : antennas) {
+    if (!tag->inFieldOf(antenna)) continue;
+    TagRead r = makeRead(reader, *tag, antenna);
+    if (!best || r.peakRssi > best->peakRssi) best = r;
+  }
+  if (!best) return {};
+  best->hasLocation = true;
+  best->relativeDistance = relativeDistanceFor(best->peakRssi);
+  if (reader.buffer.add(*best, reader.storage.maxTagCount()) == TagBuffer::Added::kDropped) {
+    raiseDataless(reader, kBufferFullEvent);
+    return {};
+  }
+  raiseDataless(reader, kTagReadEvent);
+  return {epc};
+}
+
+void easRound(Reader& reader, const Population& tags, const std::vector<uint16_t>& antennas) {
+  for (uint16_t antenna : antennas) {
+    for (const SimTag& tag : tags) {
+      if (!tag.eas || !tag.inFieldOf(antenna)) continue;
+      std::vector<uint8_t> data(16, 0);
+      store<int64_t>(data.data(), 0, easAlarmCode(tag));
+      store<int16_t>(data.data(), 8, static_cast<int16_t>(antenna));
+      raiseEvent(reader.handle, kNxpEasAlarmEvent, std::move(data));
+    }
+  }
+}
+
+int16_t relativeDistanceFor(int8_t rssi) {
+  return static_cast<int16_t>(std::clamp((-30 - rssi) * 2, 0, 100));
+}
+
+int64_t easAlarmCode(const SimTag& tag) {
+  uint64_t code = 0;
+  const size_t from = tag.epc.size() > 8 ? tag.epc.size() - 8 : 0;
+  for (size_t i = from; i < tag.epc.size(); ++i) code = (code << 8) | tag.epc[i];
+  return static_cast<int64_t>(code);
+}
+
+}  // namespace sim

@@ -1,0 +1,57 @@
+#include "reader/tag_buffer.h"
+
+#include <algorithm>
+
+namespace sim {
+namespace {
+
+void merge(TagRead& kept, const TagRead& again) {
+  kept.seenCount = static_cast<uint16_t>(kept.seenCount + again.seenCount);
+  kept.lastSeen = again.lastSeen;
+  kept.peakRssi = std::max(kept.peakRssi, again.peakRssi);
+  kept.channelIndex = again.channelIndex;
+  kept.phase = again.phase;
+  kept.hasLocation = again.hasLocation;
+  kept.relativeDistance = again.relativeDistance;
+}
+
+}  // namespace
+
+TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
+  auto found = index_.find({read.epc, read.antenna});
+  if (found != index_.end()) {
+    merge(*found->second, read);
+    return Added::kUpdated;
+  }
+  if (reads_.size() >= maxReads) return Added::kDropped;
+  reads_.push_back(read);
+  index_[{read.epc, read.antenna}] = std::prev(reads_.end());
+  return Added::kNew;
+}
+
+std::optional<TagRead> TagBuffer::pop() {
+  if (reads_.empty()) return std::nullopt;
+  TagRead read = std::move(reads_.front());
+  index_.erase({read.epc, read.antenna});
+  reads_.pop_front();
+  return read;
+}
+
+std::vector<TagRead> TagBuffer::popMany(size_t max) {
+  std::vector<TagRead> out;
+  while (out.size() < max && !reads_.empty()) out.push_back(*pop());
+  return out;
+}
+
+std::vector<TagRead> TagBuffer::peek(size_t max) const {
+  std::vector<TagRead> out;
+  for (auto it = reads_.begin(); it != reads_.end() && out.size() < max; ++it) out.push_back(*it);
+  return out;
+}
+
+void TagBuffer::clear() {
+  reads_.clear();
+  index_.clear();
+}
+
+}  // namespace sim

@@ -1,0 +1,36 @@
+// The reader's tag buffer: reads wait here, in the order first seen, until
+// the application fetches them. A tag seen again on the same antenna before
+// it was fetched updates its read (seen count, last seen, peak RSSI).
+// Not locked itself: the reader's lock guards it.
+#pragma once
+
+#include <cstddef>
+#include <list>
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "reader/tag_read.h"
+
+namespace sim {
+
+class TagBuffer {
+ public:
+  enum class Added { kNew, kUpdated, kDropped };
+
+  // kDropped when the read is of a new tag and maxReads are buffered.
+  Added add(const TagRead& read, size_t maxReads);
+  std::optional<TagRead> pop();
+  std::vector<TagRead> popMany(size_t max);
+  std::vector<TagRead> peek(size_t max) const;
+  size_t size() const { return reads_.size(); }
+  void clear();
+
+ private:
+  using Key = std::pair<Bytes, uint16_t>;  // EPC and antenna
+  std::list<TagRead> reads_;
+  std::map<Key, std::list<TagRead>::iterator> index_;
+};
+
+}  // namespace sim

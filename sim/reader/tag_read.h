@@ -1,0 +1,40 @@
+// One buffered read of a tag: what the reader reports about a tag seen on
+// one antenna, aggregated over the rounds until the read is fetched.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "reader/population.h"
+
+namespace sim {
+
+// SYSTEMTIME members in record order: Year, Month, DayOfWeek, Day, Hour,
+// Minute, Second, Milliseconds.
+using SystemTime = std::array<uint16_t, 8>;
+
+SystemTime utcNow();
+
+struct SeenStamp {
+  SystemTime utc{};
+  uint64_t upTimeMicros = 0;  // since the reader's start
+};
+
+struct TagRead {
+  Bytes epc;
+  uint16_t pc = 0;
+  uint32_t xpc = 0;
+  uint16_t crc = 0;
+  uint16_t antenna = 0;
+  int8_t peakRssi = 0;
+  int16_t channelIndex = 0;
+  int16_t phase = 0;
+  uint16_t seenCount = 0;
+  SeenStamp firstSeen;
+  SeenStamp lastSeen;
+  bool hasLocation = false;
+  int16_t relativeDistance = 0;
+  Bytes memoryBankData;  // none for inventory reads
+};
+
+}  // namespace sim
