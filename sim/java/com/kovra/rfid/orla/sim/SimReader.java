@@ -18,7 +18,7 @@ public final class SimReader {
   static {
     String path = System.getProperty("orla.sim");
     if (path != null) {
-      System.load(path);
+      System.load(new java.io.File(path).getAbsolutePath());
     } else {
       System.loadLibrary("halyard");
     }
