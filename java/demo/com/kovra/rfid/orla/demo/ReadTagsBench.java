@@ -31,7 +31,17 @@ public final class ReadTagsBench {
     private static final String ROW = "%-44s %10s %19s %9s%n";
 
     /** The median of several runs, in nanoseconds per unit, with the smallest and largest. */
-    record Figure(double median, double min, double max) {
+    static final class Figure {
+        final double median;
+        final double min;
+        final double max;
+
+        Figure(double median, double min, double max) {
+            this.median = median;
+            this.min = min;
+            this.max = max;
+        }
+
         static Figure of(double[] runs) {
             double[] sorted = runs.clone();
             java.util.Arrays.sort(sorted);

@@ -6,7 +6,7 @@ import com.kovra.rfid.orla.TAG_DATA;
 import com.kovra.rfid.orla.sim.SimControl;
 import java.io.IOException;
 import java.nio.file.Files;
-import java.nio.file.Path;
+import java.nio.file.Paths;
 import java.util.ArrayList;
 import java.util.List;
 import java.util.function.IntSupplier;
@@ -75,7 +75,7 @@ public final class SoakRun {
     }
 
     static long residentKib() throws IOException {
-        for (String line : Files.readAllLines(Path.of("/proc/self/status"))) {
+        for (String line : Files.readAllLines(Paths.get("/proc/self/status"))) {
             if (line.startsWith("VmRSS:")) {
                 return Long.parseLong(line.replaceAll("[^0-9]", ""));
             }

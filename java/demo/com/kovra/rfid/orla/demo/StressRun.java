@@ -125,27 +125,44 @@ public final class StressRun {
 
     private void step(int i) {
         switch (i % 8) {
-            case 0 -> tagStorage(i);
-            case 1 -> {
-                expect("set duty cycle", ORLANatives.RFID_SetDutyCycle(handle, uniqueShort(i)));
-                short[] got = new short[1];
-                expect("get duty cycle", ORLANatives.RFID_GetDutyCycle(handle, got));
-                check("duty cycle", uniqueShort(i), got[0]);
-            }
-            case 2 -> {
-                expect("set idle time-out", ORLANatives.RFID_TurnOffRadioWhenIdle(handle, unique(i)));
-                int[] got = new int[1];
-                expect("get idle time-out", ORLANatives.RFID_GetRadioIdleTimeout(handle, got));
-                check("idle time-out", unique(i), got[0]);
-            }
-            case 3 -> singulation(i);
-            case 4, 6 -> fetchTags();
-            case 5 -> readUserMemory();
-            default -> {
+            case 0:
+                tagStorage(i);
+                break;
+            case 1:
+                dutyCycle(i);
+                break;
+            case 2:
+                idleTimeout(i);
+                break;
+            case 3:
+                singulation(i);
+                break;
+            case 4:
+            case 6:
+                fetchTags();
+                break;
+            case 5:
+                readUserMemory();
+                break;
+            default:
                 expect("enable GPI", ORLANatives.RFID_EnableGPIPort(handle, 1, (i & 8) == 0));
                 expect("set GPO", ORLANatives.RFID_SetGPOState(handle, 1 + thread % 2, (i & 8) == 0));
-            }
+                break;
         }
+    }
+
+    private void dutyCycle(int i) {
+        expect("set duty cycle", ORLANatives.RFID_SetDutyCycle(handle, uniqueShort(i)));
+        short[] got = new short[1];
+        expect("get duty cycle", ORLANatives.RFID_GetDutyCycle(handle, got));
+        check("duty cycle", uniqueShort(i), got[0]);
+    }
+
+    private void idleTimeout(int i) {
+        expect("set idle time-out", ORLANatives.RFID_TurnOffRadioWhenIdle(handle, unique(i)));
+        int[] got = new int[1];
+        expect("get idle time-out", ORLANatives.RFID_GetRadioIdleTimeout(handle, got));
+        check("idle time-out", unique(i), got[0]);
     }
 
     private void tagStorage(int i) {
