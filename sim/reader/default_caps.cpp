@@ -13,14 +13,16 @@ constexpr size_t kRfModeEntryBytes = 80;
 constexpr size_t kTableHeaderBytes = 16;  // count, padding, pointer
 constexpr size_t kRfModeCount = 2;
 
-// The tables the default record points at; built once, never freed.
+// The tables the default record points at; built once, never freed. The
+// byte tables stand for records holding pointers and 32-bit fields, and the
+// reader's client reads them as such: they get those records' alignment.
 struct CapsTables {
   std::array<int32_t, 3> sensitivities{{0, -30, -60}};
   std::array<int16_t, 21> powerLevels{};
-  std::array<uint8_t, kRfModeCount * kRfModeEntryBytes> rfModeEntries{};
-  std::array<uint8_t, kTableHeaderBytes> rfModeTable{};
+  alignas(8) std::array<uint8_t, kRfModeCount * kRfModeEntryBytes> rfModeEntries{};
+  alignas(8) std::array<uint8_t, kTableHeaderBytes> rfModeTable{};
   std::array<uint32_t, 4> hopFrequencies{{902750, 915250, 927250, 910250}};
-  std::array<uint8_t, kTableHeaderBytes> hopTable{};
+  alignas(8) std::array<uint8_t, kTableHeaderBytes> hopTable{};
 };
 
 // One RF mode: identifier, divide ratio, BDR, modulation, forward link,

@@ -47,7 +47,7 @@ Operation::Operation(ReaderPtr reader, OperationPlan plan)
     : reader_(std::move(reader)),
       plan_(std::move(plan)),
       nextPeriod_(Clock::now()),
-      thread_([this] { run(); }) {}
+      thread_([this, startedAt = nextPeriod_, gpiSeen = reader_->gpiSeq] { run(startedAt, gpiSeen); }) {}
 
 Operation::~Operation() {
   if (thread_.joinable()) thread_.join();
@@ -55,19 +55,22 @@ Operation::~Operation() {
 
 void Operation::requestStop() { stopRequested_ = true; }
 
-void Operation::run() {
+// Taken by the call, not by the thread, which may start much later under
+// load: GPI changes after the call count, and a duration runs from the call.
+void Operation::run(Clock::time_point startedAt, uint64_t gpiSeen) {
   Lock lock(reader_->mutex);
-  uint64_t gpiSeen = reader_->gpiSeq;  // changes before the start do not count
-  while (waitForStart(lock, &gpiSeen)) {
-    readUntilStopTrigger(lock, &gpiSeen);
+  Clock::time_point from = startedAt;
+  while (waitForStart(lock, &gpiSeen, &from)) {
+    readUntilStopTrigger(lock, &gpiSeen, from);
     if (plan_.triggers.start.kind == StartTrigger::Kind::kImmediate) break;
   }
 }
 
-bool Operation::waitForStart(Lock& lock, uint64_t* gpiSeen) {
+bool Operation::waitForStart(Lock& lock, uint64_t* gpiSeen, Clock::time_point* from) {
   const StartTrigger& start = plan_.triggers.start;
   if (start.kind == StartTrigger::Kind::kPeriodic) {
     reader_->changed.wait_until(lock, nextPeriod_, [this] { return stopRequested_; });
+    *from = nextPeriod_;
     nextPeriod_ += std::max(milliseconds(start.periodMs), kRoundInterval);
   } else if (start.kind == StartTrigger::Kind::kGpi) {
     std::optional<uint64_t> match;
@@ -81,13 +84,14 @@ bool Operation::waitForStart(Lock& lock, uint64_t* gpiSeen) {
       reader_->changed.wait_for(lock, milliseconds(start.timeoutMs), woken);
     }
     *gpiSeen = match ? *match : reader_->gpiSeq;
+    *from = Clock::now();
   }
   return !stopRequested_;
 }
 
-void Operation::readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen) {
+void Operation::readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen, Clock::time_point from) {
   Run run;
-  run.deadline = deadlineOf(plan_.triggers.stop, Clock::now());
+  run.deadline = deadlineOf(plan_.triggers.stop, from);
   run.gpiSeen = gpiSeen;
   const bool access = plan_.kind == OperationKind::kAccessSequence;
   if (access) resetAccessCounts(reader_->handle);

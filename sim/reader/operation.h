@@ -34,7 +34,7 @@ struct OperationPlan {
 
 class Operation {
  public:
-  Operation(ReaderPtr reader, OperationPlan plan);
+  Operation(ReaderPtr reader, OperationPlan plan);  // under the reader's lock
   Operation(const Operation&) = delete;
   Operation& operator=(const Operation&) = delete;
   ~Operation();  // joins the thread; request the stop first
@@ -46,9 +46,11 @@ class Operation {
   using Lock = std::unique_lock<std::mutex>;
   struct Run;
 
-  void run();
-  bool waitForStart(Lock& lock, uint64_t* gpiSeen);
-  void readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen);
+  // The thread's loop; `startedAt` and `gpiSeen` are the reader's clock and
+  // GPI count when the call started the operation.
+  void run(std::chrono::steady_clock::time_point startedAt, uint64_t gpiSeen);
+  bool waitForStart(Lock& lock, uint64_t* gpiSeen, std::chrono::steady_clock::time_point* from);
+  void readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen, std::chrono::steady_clock::time_point from);
   bool stopTriggerReached(const Run& run) const;
   void waitForNextRound(Lock& lock, Run& run);
   std::vector<Bytes> round();

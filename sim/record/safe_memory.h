@@ -16,6 +16,10 @@
 #include <cstdint>
 #include <vector>
 
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#endif
+
 namespace sim {
 namespace detail {
 
@@ -73,6 +77,20 @@ constexpr size_t kPage = 4096;
 
 inline size_t bytesToPageEnd(const void* p) {
   return kPage - reinterpret_cast<uintptr_t>(p) % kPage;
+}
+
+// How many of the n bytes at p may be read ahead: all of them, except in an
+// AddressSanitizer build, where reading past the end of the object (still on
+// a mapped page) would be reported; there it is the bytes up to that end.
+inline size_t readAheadBytes(const void* p, size_t n) {
+#if defined(__SANITIZE_ADDRESS__)
+  if (void* end = __asan_region_is_poisoned(const_cast<void*>(p), n)) {
+    return static_cast<size_t>(static_cast<const uint8_t*>(end) - static_cast<const uint8_t*>(p));
+  }
+#else
+  (void)p;
+#endif
+  return n;
 }
 
 }  // namespace detail
@@ -134,7 +152,8 @@ inline bool safeWide(const wchar_t* s, size_t maxChars, std::vector<uint8_t>* by
   while (done < maxChars) {
     // Read no further than the page the string has reached: its end may be
     // the last character before an unmapped page.
-    size_t chars = std::max<size_t>(detail::bytesToPageEnd(s + done) / sizeof(wchar_t), 1);
+    const size_t ahead = detail::readAheadBytes(s + done, detail::bytesToPageEnd(s + done));
+    size_t chars = std::max<size_t>(ahead / sizeof(wchar_t), 1);
     chars = std::min(chars, maxChars - done);
     std::vector<wchar_t> chunk(chars);
     if (!safeCopy(chunk.data(), s + done, chars * sizeof(wchar_t))) return false;

@@ -171,6 +171,7 @@ TEST_F(ConnectionTest, LlrpConfigurationIsKeptPerReaderWithACopyOfItsSecureRecor
 
   sim::queueScriptedStatus("RFID_SetLLRPConnectionConfigW", 5);
   config[0] = 0;
+  put<const void*>(config.data(), 1048, nullptr);  // the secure record is gone
   EXPECT_EQ(5, RFID_SetLLRPConnectionConfigW(handle, config.data()));
   ASSERT_EQ(sim::kSuccess, RFID_GetLLRPConnectionConfigW(handle, got.data()));
   EXPECT_EQ(1, got[0]);  // the failed set changed nothing

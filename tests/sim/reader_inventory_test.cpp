@@ -215,7 +215,8 @@ TEST_F(InventoryTest, UnreadableRecordsAreRefusedNotFollowed) {
   void* wild = reinterpret_cast<void*>(0x10);
   EXPECT_EQ(RFID_PerformInventory(reader, nullptr, wild, nullptr, nullptr), sim::kInvalidParam);
   EXPECT_EQ(RFID_StopInventory(reader), sim::kNoOperationRunning) << "nothing started";
-  Record pattern = epcPattern({0x30}).ptr(24, wild).put<uint16_t>(32, 8);
+  const Bytes prefix = {0x30};  // the pattern points at it: it must outlive the call
+  Record pattern = epcPattern(prefix).ptr(24, wild).put<uint16_t>(32, 8);
   Record filter = Record(40).ptr(8, pattern.data());
   EXPECT_EQ(RFID_PerformInventory(reader, filter.data(), nullptr, nullptr, nullptr), sim::kInvalidParam);
   Record pre = Record(36).ptr(8, wild).put<uint16_t>(16, 8);

@@ -50,7 +50,7 @@ class InventoryTest extends NativeTest {
         assertArrayEquals(new byte[] {(byte) 0xAB}, call.blob("tagID"));
         assertEquals(12, fields(call.blob("antennaInfo.antennaList"), 22, 2)[0]);
 
-        ORLANatives.RFID_PerformTagLocationing(NO_READER, "3000", 0, null);
+        ORLANatives.RFID_PerformTagLocationing(NO_READER, "", 0, null);
         call = Call.last("RFID_PerformTagLocationing");
         assertNotEquals(0L, call.arg(1), "a length of 0 still gets a buffer");
         assertArrayEquals(new byte[0], call.blob("tagID"));
