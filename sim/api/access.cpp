@@ -12,6 +12,7 @@
 #include "reader/memory_reads.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {
@@ -337,7 +338,10 @@ int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint3
 int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
   ApiCall call("RFID_DeleteOperationFromAccessSequence", handle, index);
   int32_t status = call.finish();
-  if (status == sim::kSuccess && !sim::removeOperation(handle, index)) return sim::kNotFound;
+  if (status == sim::kSuccess && !sim::removeOperation(handle, index)) {
+    return sim::rememberFailure(handle, sim::kNotFound, "RFID_DeleteOperationFromAccessSequence",
+                                "the access sequence holds no operation " + std::to_string(index));
+  }
   return status;
 }
 

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "reader/status.h"
+#include "reader/last_error.h"
 
 namespace sim {
 
@@ -12,6 +13,7 @@ CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable) {
   outcome.reader = findReader(handle);
   if (outcome.status == kSuccess && !outcome.reader) outcome.status = kInvalidHandle;
   if (outcome.status == kSuccess && !readable) outcome.status = kInvalidParam;
+  rememberFailure(handle, outcome.status, rec.fn().c_str());
   return outcome;
 }
 

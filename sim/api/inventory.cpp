@@ -8,6 +8,7 @@
 #include "api/call_outcome.h"
 #include "reader/operation.h"
 #include "reader/status.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {
@@ -34,14 +35,15 @@ OperationPlan planFor(OperationKind kind, const Recorder& rec) {
 int32_t start(Recorder& rec, int64_t handle, bool readable, OperationPlan plan) {
   const CallOutcome call = finishCall(rec, handle, readable);
   if (!call.proceeds()) return call.status;
-  return startOperation(call.reader, std::move(plan));
+  return rememberFailure(handle, startOperation(call.reader, std::move(plan)), rec.fn().c_str(),
+                         "the reader already runs an inventory, locate, EAS scan or access sequence");
 }
 
 int32_t stop(const char* fn, int64_t handle, OperationKind kind) {
   Recorder rec(fn, {raw(handle)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
-  return stopOperation(*call.reader, kind);
+  return rememberFailure(handle, stopOperation(*call.reader, kind), fn, "no such operation is running");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "record/api_call.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {
@@ -16,7 +17,6 @@ constexpr size_t kSecureLlrpBytes = 40;
 constexpr size_t kLlrpScratchBytes = 24;
 constexpr uint32_t kDefaultLlrpPort = 5084;
 constexpr size_t kErrorInfoBytes = 2120;
-constexpr size_t kStatusDescAt = 20;
 constexpr size_t kVersionBytes = 1048;
 
 // The LLRP configuration last set on a reader, its secure record apart (the
@@ -41,26 +41,6 @@ std::vector<uint8_t> llrpAnswer(int64_t handle) {
   uint64_t secure = config.secure.present ? raw(keepAlive(config.secure.bytes)) : 0;
   putField(&config.record, kLlrpSecureAt, secure);
   return config.record;
-}
-
-const wchar_t* describe(int32_t status) {
-  switch (status) {
-    case kSuccess: return L"Success";
-    case kInvalidHandle: return L"Invalid reader handle";
-    case kInvalidParam: return L"Invalid parameter";
-    case kNoReadTags: return L"No tags read";
-    case kOperationInProgress: return L"An operation is already in progress";
-    case kNoOperationRunning: return L"No operation is running";
-    case kNotFound: return L"Not found";
-    case kOutOfMemory: return L"Out of memory";
-    default: return L"Unknown status";
-  }
-}
-
-std::vector<uint8_t> defaultErrorInfo() {
-  std::vector<uint8_t> info(kErrorInfoBytes, 0);
-  putWide(&info, kStatusDescAt, describe(kSuccess));
-  return info;
 }
 
 }  // namespace
@@ -109,7 +89,7 @@ int32_t RFID_DisconnectLLRPConnectionFromReader(int64_t handle) {
 int32_t RFID_GetLastErrorInfoW(int64_t handle, void* errorInfo) {
   ApiCall call("RFID_GetLastErrorInfoW", handle, errorInfo);
   call.require(errorInfo);
-  call.outputs({{errorInfo, sim::kErrorInfoBytes}}, sim::defaultErrorInfo());
+  call.outputs({{errorInfo, sim::kErrorInfoBytes}}, sim::lastErrorRecord(handle));
   return call.finish();
 }
 
@@ -120,7 +100,7 @@ const wchar_t* RFID_GetErrorDescriptionW(int32_t status) {
   if (sim::scriptedPointer("RFID_GetErrorDescriptionW", &scripted)) {
     return reinterpret_cast<const wchar_t*>(scripted);
   }
-  return sim::describe(status);
+  return sim::describeStatus(status);
 }
 
 int32_t RFID_GetDllVersionInfoW(void* versionInfo) {

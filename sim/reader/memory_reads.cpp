@@ -9,6 +9,7 @@
 #include "reader/status.h"
 #include "reader/population.h"
 #include "reader/tag_records.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {
@@ -92,7 +93,7 @@ int32_t answerRead(ApiCall& call, int64_t handle, void* tag) {
   const Blob params = call.captured("params");
   const int32_t status = call.finish();
   if (status != kSuccess) return status;
-  return readTagMemory(handle, tagID, params, tag);
+  return rememberFailure(handle, readTagMemory(handle, tagID, params, tag), "RFID_Read");
 }
 
 }  // namespace sim

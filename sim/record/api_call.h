@@ -7,7 +7,8 @@
 //
 // Status: a status scripted for the function wins; otherwise an unknown
 // reader handle gives kInvalidHandle, a missing required pointer
-// kInvalidParam, and everything else kSuccess. Outputs are written whatever
+// kInvalidParam, and everything else kSuccess. A failure of a known reader
+// becomes its last error. Outputs are written whatever
 // the status (NULL ones skipped), so tests can prove that the library takes
 // nothing back from a failed call.
 #pragma once
@@ -25,6 +26,7 @@
 #include "record/journal.h"
 #include "reader/sessions.h"
 #include "reader/status.h"
+#include "reader/last_error.h"
 
 namespace sim {
 
@@ -158,10 +160,12 @@ inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
 
 inline int32_t ApiCall::finish() {
   int32_t status = kSuccess;
-  if (recorder_.finish(&status)) return status;
-  if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
-  if (missing_) return kInvalidParam;
-  return kSuccess;
+  if (!recorder_.finish(&status)) {
+    if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
+    if (missing_) status = kInvalidParam;
+  }
+  if (checksHandle_) rememberFailure(handle_, status, fn_);
+  return status;
 }
 
 }  // namespace sim

@@ -60,6 +60,7 @@ class Recorder {
   // A blob captured so far by this recorder; an absent blob when there is
   // none of that name. Deep captures read the pointers they follow from here.
   const Blob& captured(const std::string& name) const;
+  const std::string& fn() const { return call_.fn; }
 
  private:
   Call call_;

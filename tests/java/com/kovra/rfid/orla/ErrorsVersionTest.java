@@ -5,6 +5,9 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
+import java.time.Year;
+import java.time.ZoneOffset;
+import java.util.function.IntSupplier;
 import org.junit.jupiter.api.Test;
 
 /** The last error on a reader, status descriptions, the library version and the trace level. */
@@ -49,5 +52,46 @@ class ErrorsVersionTest extends NativeTest {
         SimControl.setOutput("RFID_GetDllVersionInfoW", new Bytes.Builder(1048).wide(0, "4.2.1-b77", 262).build());
         assertEquals(0, ORLANatives.RFID_GetDllVersionInfo(version));
         assertEquals("4.2.1-b77", version.dllVersion);
+    }
+
+    @Test
+    void lastErrorIsTheReadersLatestFailureUntilTheNextOne() {
+        int handle = connect();
+        ERROR_INFO info = new ERROR_INFO();
+        assertEquals(0, ORLANatives.RFID_GetLastErrorInfo(handle, info));
+        assertEquals(0, info.enumRfidStatusCode, "no failure yet");
+        assertEquals("Success", info.statusDesc);
+        assertEquals("", info.vendorMessage);
+
+        short year = (short) Year.now(ZoneOffset.UTC).getValue();
+        Object[][] failures = {
+            // the call, its status, the status's description, the text it leaves
+            {(IntSupplier) () -> ORLANatives.RFID_StopInventory(handle), 5, "No operation is running",
+                "RFID_StopInventory: no such operation is running"},
+            {(IntSupplier) () -> ORLANatives.RFID_DeleteOperationFromAccessSequence(handle, 7), 6, "Not found",
+                "RFID_DeleteOperationFromAccessSequence: the access sequence holds no operation 7"},
+            {(IntSupplier) () -> {
+                SimControl.setStatus("RFID_SetTraceLevel", FAILED);
+                return ORLANatives.RFID_SetTraceLevel(handle, 1);
+            }, FAILED, "Unknown status", "RFID_SetTraceLevel: Unknown status"},
+        };
+        for (Object[] failure : failures) {
+            int status = (Integer) failure[1];
+            assertEquals(status, ((IntSupplier) failure[0]).getAsInt());
+            assertEquals(0, ORLANatives.RFID_GetLastErrorInfo(handle, info));
+            assertEquals(status, info.enumRfidStatusCode);
+            assertEquals(failure[2], info.statusDesc);
+            assertEquals(failure[3], info.vendorMessage);
+            assertEquals(year, info.errorTimeStamp.Year, "a UTC time stamp");
+        }
+        SimControl.setStatus("RFID_SetTraceLevel", 0);
+        assertEquals(0, ORLANatives.RFID_SetTraceLevel(handle, 1));
+        assertEquals(0, ORLANatives.RFID_GetLastErrorInfo(handle, info));
+        assertEquals("RFID_SetTraceLevel: Unknown status", info.vendorMessage, "a success clears nothing");
+
+        int other = connect();
+        assertEquals(0, ORLANatives.RFID_GetLastErrorInfo(other, info));
+        assertEquals(0, info.enumRfidStatusCode, "per reader");
+        assertEquals(INVALID_HANDLE, ORLANatives.RFID_GetLastErrorInfo(-5, info));
     }
 }
