@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "reader/capabilities.h"
 #include "reader/event_signals.h"
 #include "reader/state.h"
 #include "reader/population.h"
@@ -97,6 +98,10 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_useUpTime(JNIEnv* 
   if (!r) return;
   std::lock_guard<std::mutex> lock(r->mutex);
   r->upTimeForm = upTime != JNI_FALSE;
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_checkCapabilities(JNIEnv*, jclass, jboolean on) {
+  sim::setCapabilityChecks(on != JNI_FALSE ? sim::CapabilityChecks::kOn : sim::CapabilityChecks::kOff);
 }
 
 }  // extern "C"

@@ -59,4 +59,13 @@ public final class SimReader {
 
   /** Seen times of later tag records in the up-time form (true) or UTC (false, the default). */
   public static native void useUpTime(long reader, boolean upTime);
+
+  /**
+   * Whether calls are checked against the reader's capabilities (antenna IDs
+   * 1 to 4, indices within its power, sensitivity, frequency and RF mode
+   * tables): a call beyond them gets status 2 and a last error that says why.
+   * By default a recording simulator does not check and one that does not
+   * record does; this decides until {@link SimControl#reset()}.
+   */
+  public static native void checkCapabilities(boolean on);
 }
