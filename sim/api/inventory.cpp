@@ -29,6 +29,7 @@ OperationPlan planFor(OperationKind kind, const Recorder& rec) {
   plan.kind = kind;
   plan.antennas = readAntennas(rec, "antennaInfo");
   plan.triggers = readTriggers(rec.captured("triggerInfo"));
+  plan.triggers.reports = readTagReportPlan(rec, "triggerInfo");
   return plan;
 }
 

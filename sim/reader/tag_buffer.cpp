@@ -18,6 +18,11 @@ void merge(TagRead& kept, const TagRead& again) {
 }  // namespace
 
 TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
+  if (read.tagEvent != 0) {  // each tag event is a record of its own
+    if (reads_.size() >= maxReads) return Added::kDropped;
+    reads_.push_back(read);
+    return Added::kNew;
+  }
   auto found = index_.find({read.epc, read.antenna});
   if (found != index_.end()) {
     merge(*found->second, read);
@@ -32,7 +37,8 @@ TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
 std::optional<TagRead> TagBuffer::pop() {
   if (reads_.empty()) return std::nullopt;
   TagRead read = std::move(reads_.front());
-  index_.erase({read.epc, read.antenna});
+  auto indexed = index_.find({read.epc, read.antenna});
+  if (indexed != index_.end() && indexed->second == reads_.begin()) index_.erase(indexed);
   reads_.pop_front();
   return read;
 }

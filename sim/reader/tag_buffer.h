@@ -1,6 +1,7 @@
 // The reader's tag buffer: reads wait here, in the order first seen, until
 // the application fetches them. A tag seen again on the same antenna before
-// it was fetched updates its read (seen count, last seen, peak RSSI).
+// it was fetched updates its read (seen count, last seen, peak RSSI). A tag
+// event is never merged: each is a record of its own.
 // Not locked itself: the reader's lock guards it.
 #pragma once
 

@@ -29,6 +29,8 @@ constexpr size_t kTagSeenCount = 76;
 constexpr size_t kMemoryBankDataPtr = 96;
 constexpr size_t kMemoryBankDataLength = 108;
 constexpr size_t kMemoryBankDataAllocated = 112;
+constexpr size_t kTagEvent = 116;
+constexpr size_t kTagEventTimeStamp = 120;
 constexpr size_t kLocationInfoPtr = 136;
 constexpr size_t kPhaseInfo = 168;
 
@@ -90,6 +92,8 @@ void fillSighting(uint8_t* r, const TagRead& read, const RecordFill& fill) {
   store<int16_t>(r, kChannelIndex, read.channelIndex);
   store<int16_t>(r, kTagSeenCount, static_cast<int16_t>(read.seenCount));
   store<int16_t>(r, kPhaseInfo, read.phase);
+  store<uint32_t>(r, kTagEvent, read.tagEvent);
+  storeSystemTime(r, kTagEventTimeStamp, read.tagEventTime);
 }
 
 void fillMemoryBank(OwnedRecord& owned, const TagRead& read, const RecordFill& fill) {

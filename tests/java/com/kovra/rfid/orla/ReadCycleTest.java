@@ -1,6 +1,7 @@
 package com.kovra.rfid.orla;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertNull;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.SimReader;
@@ -43,6 +44,7 @@ class ReadCycleTest extends NativeTest {
 
     @Test
     void inventoryReportsExactlyTheFilteredTagsOfTheSelectedAntennas() {
+        assertNull(SimReader.loadScenario(""), "every built-in tag stays in its field");
         int reader = connect();
         int readEvent = (int) ORLANatives.rfidUtils_CreateEvent(0, 1, 0);
         int stopEvent = (int) ORLANatives.rfidUtils_CreateEvent(0, 1, 0);
