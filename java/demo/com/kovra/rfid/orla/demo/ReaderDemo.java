@@ -126,11 +126,12 @@ public final class ReaderDemo {
         if (live && !last) {
             out.print("\033[H\033[2J");
         }
-        out.printf("%-34s %7s %6s %7s%n", "EPC", "antenna", "RSSI", "count");
+        out.printf("%-34s %7s %6s %7s  %s%n", "EPC", "antenna", "RSSI", "count", "field");
         List<Row> sorted = new ArrayList<>(rows.values());
         sorted.sort((a, b) -> a.epc.equals(b.epc) ? Short.compare(a.antenna, b.antenna) : a.epc.compareTo(b.epc));
         for (Row row : sorted) {
-            out.printf("%-34s %7d %6d %7d%n", row.epc, row.antenna, row.peakRssi, row.count);
+            out.printf("%-34s %7d %6d %7d  %s%n", row.epc, row.antenna, row.peakRssi, row.count,
+                    now - row.lastReadMs < Row.GONE_AFTER_MS ? "here" : "gone");
         }
         out.printf("%d tags, %d reads%n", uniqueEpcs(), rows.values().stream().mapToLong(r -> r.count).sum());
     }
@@ -184,12 +185,14 @@ public final class ReaderDemo {
         return bytes;
     }
 
-    /** One line of the table: a tag as seen by one antenna. */
+    /** One line of the table: a tag as seen by one antenna; gone when that antenna has not read it for a second. */
     private static final class Row {
+        static final long GONE_AFTER_MS = 1000;
         final String epc;
         final short antenna;
         short peakRssi = Short.MIN_VALUE;
         long count;
+        long lastReadMs;
 
         Row(String epc, short antenna) {
             this.epc = epc;
@@ -199,6 +202,7 @@ public final class ReaderDemo {
         void add(TAG_DATA tag) {
             peakRssi = (short) Math.max(peakRssi, tag.peakRSSI);
             count += Math.max(1, tag.tagSeenCount);
+            lastReadMs = System.currentTimeMillis();
         }
     }
 
