@@ -28,11 +28,11 @@ std::vector<uint16_t> antennasOf(const SimTag& tag, const ScenarioWindow& window
   return own;
 }
 
-size_t perAntennaBudget(size_t antennas) {
+// Reads a round may make in all; no limit without a rate.
+size_t roundBudget() {
   const uint32_t rate = fieldSettings().readRate;
-  if (rate == 0 || antennas == 0) return std::numeric_limits<size_t>::max();
-  const size_t perRound = std::max<size_t>(1, static_cast<size_t>(rate) * kRoundMs / 1000);
-  return std::max<size_t>(1, perRound / antennas);
+  if (rate == 0) return std::numeric_limits<size_t>::max();
+  return std::max<size_t>(1, static_cast<size_t>(rate) * kRoundMs / 1000);
 }
 
 void refreshPlan(FieldState& field, const std::shared_ptr<const Population>& tags) {
@@ -99,19 +99,29 @@ std::vector<TagRead> fieldReads(Reader& reader, const std::shared_ptr<const Popu
   FieldState& field = reader.field;
   refreshPlan(field, tags);
   const std::vector<PreFilterRule> rules = reader.preFilterRules();
-  const size_t budget = perAntennaBudget(antennas.size());
   const SeenStamp stamp = stampNow(reader);
   std::uniform_real_distribution<double> chance(0.0, 1.0);
-  std::vector<TagRead> reads;
+  // The antennas that may see tags share the round's reads: each takes an
+  // even part of what those before it left.
+  std::vector<const std::vector<uint32_t>*> lists;
   for (uint16_t antenna : antennas) {
-    if (field.disconnected.count(antenna) != 0) continue;
     auto list = field.plan.candidates.find(antenna);
-    if (list == field.plan.candidates.end()) continue;
-    const std::vector<uint32_t>& candidates = list->second;
+    const bool reads = list != field.plan.candidates.end() && field.disconnected.count(antenna) == 0;
+    lists.push_back(reads ? &list->second : nullptr);
+  }
+  size_t left = roundBudget();
+  size_t antennasLeft = static_cast<size_t>(std::count_if(lists.begin(), lists.end(), [](auto* l) { return l; }));
+  std::vector<TagRead> reads;
+  for (size_t a = 0; a < antennas.size(); ++a) {
+    if (lists[a] == nullptr) continue;
+    const uint16_t antenna = antennas[a];
+    const size_t budget = std::max<size_t>(1, left / antennasLeft--);
+    const std::vector<uint32_t>& candidates = *lists[a];
     const size_t n = candidates.size();
     const size_t start = field.cursor[antenna] % n;
     size_t walked = 0;
-    for (size_t answered = 0; walked < n && answered < budget; ++walked) {
+    size_t answered = 0;
+    for (; walked < n && answered < budget; ++walked) {
       const uint32_t index = candidates[(start + walked) % n];
       const std::optional<int8_t> base = field.plan.presence(index, antenna, field.fieldMs);
       const SimTag& tag = (*tags)[index];
@@ -124,6 +134,7 @@ std::vector<TagRead> fieldReads(Reader& reader, const std::shared_ptr<const Popu
       reads.push_back(std::move(read));
     }
     field.cursor[antenna] = (start + walked) % n;
+    left -= std::min(left, answered);
   }
   field.fieldMs += kRoundMs;
   return reads;

@@ -7,7 +7,7 @@
 // answers with a chance that falls with its signal (readChance), its RSSI
 // varies by up to kRssiJitterDb from read to read, and a round reads at
 // most the reader's rate times the round's time (reader/field_settings.h),
-// shared among the round's antennas. A disconnected antenna reads nothing.
+// shared among the round's antennas that may see tags. A disconnected antenna reads nothing.
 #pragma once
 
 #include <cstdint>

@@ -50,12 +50,17 @@ void TagReporter::seen(TagRead& read, uint64_t fieldMs, const SystemTime& now, s
   auto found = sightings_.find(key);
   if (found == sightings_.end()) {
     if (plan_.newTag != TagReportPlan::kNever) out->push_back(eventRecord(read, kNewTagVisible, now));
-    sightings_.emplace(key, Sighting{read, fieldMs, fieldMs, true, true});
+    Sighting& s = sightings_[key];
+    s.last = read;
+    s.firstMs = s.lastMs = fieldMs;
+    s.lastMsOn[read.antenna] = fieldMs;
     return;
   }
   Sighting& s = found->second;
   if (!s.visible && plan_.back != TagReportPlan::kNever) out->push_back(eventRecord(read, kTagBackToVisibility, now));
-  if (plan_.moving && read.antenna != s.last.antenna) {
+  auto on = s.lastMsOn.find(read.antenna);
+  const bool newAntenna = on == s.lastMsOn.end() || fieldMs - on->second >= invisibleAfter();
+  if (plan_.moving && s.visible && s.firstMs != fieldMs && newAntenna) {
     out->push_back(eventRecord(read, kTagMoving, now));
     s.movedMs = fieldMs;
     s.stationaryReported = false;
@@ -67,6 +72,7 @@ void TagReporter::seen(TagRead& read, uint64_t fieldMs, const SystemTime& now, s
   }
   s.last = read;
   s.lastMs = fieldMs;
+  s.lastMsOn[read.antenna] = fieldMs;
   s.visible = true;
 }
 

@@ -9,9 +9,9 @@
 //   moderated time-out when that report is MODERATED and the time-out is
 //   not 0, else kInvisibleAfterMs of the field's time);
 // - back to visibility: read again after it was not visible;
-// - moving: read on another antenna than its last read; stationary: read on
-//   the same antenna for the stationary time-out (kStationaryAfterMs when 0)
-//   since it moved.
+// - moving: while visible, read by an antenna that has not read it within
+//   the invisible time-out (not in the round it appeared); stationary: read
+//   for the stationary time-out (kStationaryAfterMs when 0) since it moved.
 // A report of NEVER drops that kind; IMMEDIATE and MODERATED report it.
 // While any event is reported, plain reads are not.
 //
@@ -21,6 +21,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -72,7 +73,9 @@ class TagReporter {
  private:
   struct Sighting {
     TagRead last;
+    uint64_t firstMs = 0;
     uint64_t lastMs = 0;
+    std::map<uint16_t, uint64_t> lastMsOn;  // by antenna
     uint64_t movedMs = 0;
     bool visible = true;
     bool stationaryReported = true;
