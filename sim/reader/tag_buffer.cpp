@@ -17,6 +17,12 @@ void merge(TagRead& kept, const TagRead& again) {
 
 }  // namespace
 
+size_t TagBuffer::KeyHash::operator()(const Key& key) const {
+  size_t h = 1469598103934665603ull ^ key.second;  // FNV-1a over the antenna and the EPC
+  for (uint8_t b : key.first) h = (h ^ b) * 1099511628211ull;
+  return h;
+}
+
 TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
   if (read.tagEvent != 0) {  // each tag event is a record of its own
     if (reads_.size() >= maxReads) return Added::kDropped;
@@ -45,7 +51,8 @@ std::optional<TagRead> TagBuffer::pop() {
 
 std::vector<TagRead> TagBuffer::popMany(size_t max) {
   std::vector<TagRead> out;
-  while (out.size() < max && !reads_.empty()) out.push_back(*pop());
+  out.reserve(std::min(max, reads_.size()));
+  while (out.size() < max && !reads_.empty()) out.push_back(std::move(*pop()));
   return out;
 }
 

@@ -7,7 +7,7 @@
 
 #include <cstddef>
 #include <list>
-#include <map>
+#include <unordered_map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -30,8 +30,11 @@ class TagBuffer {
 
  private:
   using Key = std::pair<Bytes, uint16_t>;  // EPC and antenna
+  struct KeyHash {
+    size_t operator()(const Key& key) const;
+  };
   std::list<TagRead> reads_;
-  std::map<Key, std::list<TagRead>::iterator> index_;
+  std::unordered_map<Key, std::list<TagRead>::iterator, KeyHash> index_;
 };
 
 }  // namespace sim

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <map>
+#include <unordered_map>
+#include <vector>
 #include <memory>
 #include <mutex>
 
@@ -44,9 +46,15 @@ struct OwnedRecord {
   int16_t location[4] = {};
 };
 
+// Records handed back are kept for reuse (up to kSpareRecords), so a
+// reader that hands out thousands of records a second does not make the
+// allocator churn.
+constexpr size_t kSpareRecords = 4096;
+
 struct Records {
   std::mutex mutex;
-  std::map<const void*, std::unique_ptr<OwnedRecord>> owned;
+  std::unordered_map<const void*, std::unique_ptr<OwnedRecord>> owned;
+  std::vector<std::unique_ptr<OwnedRecord>> spare;
 };
 
 Records& records() {
@@ -113,10 +121,17 @@ void fillLocation(OwnedRecord& owned, const TagRead& read) {
 }  // namespace
 
 void* allocateTagRecord(int64_t reader) {
-  auto owned = std::make_unique<OwnedRecord>();
+  std::lock_guard<std::mutex> lock(records().mutex);
+  std::unique_ptr<OwnedRecord> owned;
+  if (records().spare.empty()) {
+    owned = std::make_unique<OwnedRecord>();
+  } else {
+    owned = std::move(records().spare.back());
+    records().spare.pop_back();
+    *owned = OwnedRecord();
+  }
   owned->reader = reader;
   void* record = owned->record;
-  std::lock_guard<std::mutex> lock(records().mutex);
   records().owned[record] = std::move(owned);
   return record;
 }
@@ -125,6 +140,7 @@ bool releaseTagRecord(void* record) {
   std::lock_guard<std::mutex> lock(records().mutex);
   auto it = records().owned.find(record);
   if (it == records().owned.end()) return false;
+  if (records().spare.size() < kSpareRecords) records().spare.push_back(std::move(it->second));
   records().owned.erase(it);
   return true;
 }
