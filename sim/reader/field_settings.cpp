@@ -1,10 +1,10 @@
 #include "reader/field_settings.h"
 
 #include <cstdlib>
-#include <mutex>
 #include <random>
 #include <string>
 
+#include "reader/in_force.h"
 #include "reader/sessions.h"
 
 namespace sim {
@@ -30,44 +30,30 @@ FieldSettings startUpSettings() {
   return settings;
 }
 
-struct Current {
-  std::mutex mutex;
-  FieldSettings settings = startUpSettings();
-};
-
-Current& current() {
-  static Current c;
-  return c;
+InForce<FieldSettings>& current() {
+  static InForce<FieldSettings> settings(startUpSettings);
+  return settings;
 }
 
 const bool kResetHookAdded = [] {
-  addResetHook([] {
-    std::lock_guard<std::mutex> lock(current().mutex);
-    current().settings = startUpSettings();
-  });
+  addResetHook([] { current().restore(); });
   return true;
 }();
 
 }  // namespace
 
-FieldSettings fieldSettings() {
-  std::lock_guard<std::mutex> lock(current().mutex);
-  return current().settings;
-}
+FieldSettings fieldSettings() { return current().get(); }
 
 void setReadRate(uint32_t readsPerSecond) {
-  std::lock_guard<std::mutex> lock(current().mutex);
-  current().settings.readRate = readsPerSecond;
+  current().change([&](FieldSettings& s) { s.readRate = readsPerSecond; });
 }
 
 void setFastMode(bool fast) {
-  std::lock_guard<std::mutex> lock(current().mutex);
-  current().settings.fast = fast;
+  current().change([&](FieldSettings& s) { s.fast = fast; });
 }
 
 void setFieldSeed(uint64_t seed) {
-  std::lock_guard<std::mutex> lock(current().mutex);
-  current().settings.seed = seed;
+  current().change([&](FieldSettings& s) { s.seed = seed; });
 }
 
 }  // namespace sim

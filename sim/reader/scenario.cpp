@@ -4,12 +4,12 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <mutex>
 #include <sstream>
 
+#include "reader/in_force.h"
 #include "reader/population.h"
 #include "reader/sessions.h"
+#include "reader/text_file.h"
 
 namespace sim {
 namespace {
@@ -130,14 +130,12 @@ std::shared_ptr<const Scenario> defaultScenario() {
   static const std::shared_ptr<const Scenario> scenario = [] {
     const char* path = std::getenv("HALYARD_SIM_SCENARIO");
     if (path != nullptr && *path != '\0') {
-      std::ifstream in(path, std::ios::binary);
-      if (!in) {
+      std::string text;
+      if (!readTextFile(path, &text)) {
         std::fprintf(stderr, "halyard-sim: %s: cannot read the scenario file; no scenario\n", path);
         return std::make_shared<const Scenario>();
       }
-      std::stringstream content;
-      content << in.rdbuf();
-      return parsedOrNone(path, content.str());
+      return parsedOrNone(path, text);
     }
     const char* tags = std::getenv("HALYARD_SIM_TAGS");
     if (tags != nullptr && *tags != '\0') return std::make_shared<const Scenario>();
@@ -146,21 +144,13 @@ std::shared_ptr<const Scenario> defaultScenario() {
   return scenario;
 }
 
-struct Current {
-  std::mutex mutex;
-  std::shared_ptr<const Scenario> scenario;
-};
-
-Current& current() {
-  static Current c;
-  return c;
+InForce<std::shared_ptr<const Scenario>>& current() {
+  static InForce<std::shared_ptr<const Scenario>> scenario(defaultScenario);
+  return scenario;
 }
 
 const bool kResetHookAdded = [] {
-  addResetHook([] {
-    std::lock_guard<std::mutex> lock(current().mutex);
-    current().scenario = defaultScenario();
-  });
+  addResetHook([] { current().restore(); });
   return true;
 }();
 
@@ -188,17 +178,12 @@ ParsedScenario parseScenario(const std::string& text) {
   return parsed;
 }
 
-std::shared_ptr<const Scenario> currentScenario() {
-  std::lock_guard<std::mutex> lock(current().mutex);
-  if (!current().scenario) current().scenario = defaultScenario();
-  return current().scenario;
-}
+std::shared_ptr<const Scenario> currentScenario() { return current().get(); }
 
 std::string loadScenario(const std::string& text) {
   ParsedScenario parsed = parseScenario(text);
   if (!parsed.error.empty()) return parsed.error;
-  std::lock_guard<std::mutex> lock(current().mutex);
-  current().scenario = std::make_shared<const Scenario>(std::move(parsed.windows));
+  current().set(std::make_shared<const Scenario>(std::move(parsed.windows)));
   return {};
 }
 
