@@ -27,7 +27,7 @@ class FieldTest extends NativeTest {
     private static final int WAIT_OBJECT_0 = 0;
     private static final int WAIT_TIMEOUT = 258;
     private static final int PARAM_ERROR = RFID_STATUS.RFID_API_PARAM_ERROR.ordinal();
-    private static final int BATCH = 256;
+    private static final int BATCH = 8;
 
     private int reader;
 
