@@ -5,6 +5,10 @@
 // missing field, a wrong signature or a null object is a fault of the Java
 // side. Local references (classes, arrays, strings) are left to the virtual
 // machine, which frees them when the native method returns.
+//
+// Every file that includes this header emits each accessor out of line as
+// well, inlined or not, as a weak symbol: the linker keeps one copy, which
+// the library exports.
 #pragma once
 
 #include <jni.h>
@@ -13,52 +17,53 @@
 #include <cstring>
 #include <cwchar>
 
-#include "bridge/pinned_array.h"
+#define ORLA_SHARED_ACCESSOR inline __attribute__((used))
 
-inline jobject getJobjectFromJobject(JNIEnv* env, jobject object, const char* name, const char* signature) {
+ORLA_SHARED_ACCESSOR jobject getJobjectFromJobject(JNIEnv* env, jobject object, const char* name,
+                                                   const char* signature) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, signature);
   return env->GetObjectField(object, field);
 }
 
-inline void setShortInJobject(JNIEnv* env, jobject object, const char* name, short value) {
+ORLA_SHARED_ACCESSOR void setShortInJobject(JNIEnv* env, jobject object, const char* name, short value) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "S");
   env->SetShortField(object, field, value);
 }
 
-inline jshort getShortFromJobject(JNIEnv* env, jobject object, const char* name) {
+ORLA_SHARED_ACCESSOR jshort getShortFromJobject(JNIEnv* env, jobject object, const char* name) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "S");
   return env->GetShortField(object, field);
 }
 
-inline void setIntInJobject(JNIEnv* env, jobject object, const char* name, int value) {
+ORLA_SHARED_ACCESSOR void setIntInJobject(JNIEnv* env, jobject object, const char* name, int value) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "I");
   env->SetIntField(object, field, value);
 }
 
-inline jint getIntFromJobject(JNIEnv* env, jobject object, const char* name) {
+ORLA_SHARED_ACCESSOR jint getIntFromJobject(JNIEnv* env, jobject object, const char* name) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "I");
   return env->GetIntField(object, field);
 }
 
-inline jlong getLongFromJobject(JNIEnv* env, jobject object, const char* name) {
+ORLA_SHARED_ACCESSOR jlong getLongFromJobject(JNIEnv* env, jobject object, const char* name) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "J");
   return env->GetLongField(object, field);
 }
 
 // The C boolean byte goes to Java as it stands.
-inline void setBoolInJobject(JNIEnv* env, jobject object, const char* name, unsigned char value) {
+ORLA_SHARED_ACCESSOR void setBoolInJobject(JNIEnv* env, jobject object, const char* name, unsigned char value) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "Z");
   env->SetBooleanField(object, field, value);
 }
 
-inline bool getBoolFromJobject(JNIEnv* env, jobject object, const char* name) {
+ORLA_SHARED_ACCESSOR bool getBoolFromJobject(JNIEnv* env, jobject object, const char* name) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "Z");
   return env->GetBooleanField(object, field) != JNI_FALSE;
@@ -67,7 +72,7 @@ inline bool getBoolFromJobject(JNIEnv* env, jobject object, const char* name) {
 // Takes the enum object itself (fetched beforehand with getJobjectFromJobject)
 // and returns its ordinal, which is the C API's value of the enumeration.
 // The int parameter is part of the signature and is not used.
-inline jint getEnumValueFromJobject(JNIEnv* env, jobject enumObject, int /*unused*/) {
+ORLA_SHARED_ACCESSOR jint getEnumValueFromJobject(JNIEnv* env, jobject enumObject, int /*unused*/) {
   jclass cls = env->GetObjectClass(enumObject);
   jfieldID field = env->GetFieldID(cls, "ordinal", "I");
   return env->GetIntField(enumObject, field);
@@ -77,33 +82,37 @@ inline jint getEnumValueFromJobject(JNIEnv* env, jobject enumObject, int /*unuse
 // 0 or less, though the array is pinned and released all the same. The
 // array's length is not consulted: count comes from the caller, usually
 // from a length field of the same object.
-inline void getShortArrayInJobject(JNIEnv* env, jobject object, const char* name, unsigned short* destination,
-                                   int count) {
+ORLA_SHARED_ACCESSOR void getShortArrayInJobject(JNIEnv* env, jobject object, const char* name,
+                                                 unsigned short* destination, int count) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "[S");
   auto array = static_cast<jshortArray>(env->GetObjectField(object, field));
-  orla::PinnedArray<jshortArray> elements(env, array);
-  if (count > 0) std::memcpy(destination, elements.data(), sizeof(jshort) * static_cast<size_t>(count));
+  jshort* elements = env->GetShortArrayElements(array, nullptr);
+  if (count > 0) std::memcpy(destination, elements, sizeof(jshort) * static_cast<size_t>(count));
+  env->ReleaseShortArrayElements(array, elements, 0);
 }
 
 // As getShortArrayInJobject, for a byte[] field.
-inline void getByteArrayInJobject(JNIEnv* env, jobject object, const char* name, unsigned char* destination,
-                                  int count) {
+ORLA_SHARED_ACCESSOR void getByteArrayInJobject(JNIEnv* env, jobject object, const char* name,
+                                                unsigned char* destination, int count) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "[B");
   auto array = static_cast<jbyteArray>(env->GetObjectField(object, field));
-  orla::PinnedArray<jbyteArray> elements(env, array);
-  if (count > 0) std::memcpy(destination, elements.data(), static_cast<size_t>(count));
+  jbyte* elements = env->GetByteArrayElements(array, nullptr);
+  if (count > 0) std::memcpy(destination, elements, static_cast<size_t>(count));
+  env->ReleaseByteArrayElements(array, elements, 0);
 }
 
 // Stores a wide string in a String field, converted under the process's
 // locale into a 4096-byte buffer. The buffer is deliberately neither cleared
 // nor terminated by hand: wcstombs terminates what fits, so callers keep
 // their text well below 4096 bytes.
-inline void setStringInJobject(JNIEnv* env, jobject object, const char* name, const wchar_t* value) {
+ORLA_SHARED_ACCESSOR void setStringInJobject(JNIEnv* env, jobject object, const char* name, const wchar_t* value) {
   jclass cls = env->GetObjectClass(object);
   jfieldID field = env->GetFieldID(cls, name, "Ljava/lang/String;");
   char text[4096];
   std::wcstombs(text, value, sizeof text);
   env->SetObjectField(object, field, env->NewStringUTF(text));
 }
+
+#undef ORLA_SHARED_ACCESSOR

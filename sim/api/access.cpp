@@ -1,7 +1,8 @@
 // Tag access: single operations, chip-specific and Gen2v2 commands, access
 // sequences. Each records what it was sent (tag ID bytes, the operation's
-// parameter record with the buffer it points to, filter and antennas) and
-// writes a result tag only when a test scripted one.
+// parameter record with the buffer it points to, filter and antennas), then
+// acts on the simulated tags (reader/single_access.h, reader/access_sequence.h)
+// unless the test scripted its status or result tag.
 #include <cstdint>
 #include <set>
 #include <string>
@@ -9,7 +10,13 @@
 
 #include "record/api_call.h"
 #include "record/captures.h"
-#include "reader/memory_reads.h"
+#include "reader/last_error.h"
+#include "reader/access_sequence.h"
+#include "reader/antenna_selection.h"
+#include "reader/single_access.h"
+#include "reader/tag_access.h"
+#include "reader/operation.h"
+#include "reader/triggers.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
 #include "reader/last_error.h"
@@ -17,7 +24,6 @@
 namespace sim {
 namespace {
 
-constexpr size_t kTagDataBytes = 192;
 constexpr size_t kAccessOperationBytes = 48;
 constexpr size_t kOperationParamsAt = 8;
 
@@ -64,21 +70,25 @@ void captureParams(ApiCall& call, const std::string& name, const void* params, P
   call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
 }
 
+// The name under which the buffer a record points to is captured, after
+// the record's own name and a dot; NULL when it points to none.
+const char* pointeeName(ParamsLayout layout) { return layout.pointee == nullptr ? nullptr : layout.pointee->name; }
+
 // The parameter record of an access-sequence operation, by operation code.
 ParamsLayout operationLayout(uint32_t opCode) {
   switch (opCode) {
-    case 0: return kReadParams;
-    case 1: return kWriteParams;
-    case 2: return kLockParams;
-    case 3: return kKillParams;
-    case 4: return kWriteParams;
-    case 5: return kBlockEraseParams;
-    case 6: return kRecommissionParams;
-    case 7: return kPermalockParams;
-    case 8: case 9: case 10: return kNxpParams;
-    case 20: return kQtWriteParams;
-    case 21: return kQtReadParams;
-    case 22: return kNxpParams;
+    case kOpRead: return kReadParams;
+    case kOpWrite: return kWriteParams;
+    case kOpLock: return kLockParams;
+    case kOpKill: return kKillParams;
+    case kOpBlockWrite: return kWriteParams;
+    case kOpBlockErase: return kBlockEraseParams;
+    case kOpRecommission: return kRecommissionParams;
+    case kOpBlockPermalock: return kPermalockParams;
+    case kOpNxpSetEas: case kOpNxpReadProtect: case kOpNxpResetReadProtect: return kNxpParams;
+    case kOpQtWrite: return kQtWriteParams;
+    case kOpQtRead: return kQtReadParams;
+    case kOpNxpChangeConfig: return kNxpParams;
     default: return {0, nullptr};
   }
 }
@@ -110,45 +120,50 @@ void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLeng
   captureAntennaInfo(call, "antennaInfo", antenna);
 }
 
-int32_t answerWithTag(ApiCall& call, void* tag) {
-  call.outputsIfScripted({{tag, kTagDataBytes}});
-  return call.finish();
+// The operation record of an access sequence with copies of its parameter
+// record and of the buffer that points to.
+AccessOperation addedOperation(const ApiCall& call) {
+  AccessOperation operation;
+  operation.op = fieldAt<uint32_t>(call.captured("operation"), 0);
+  operation.params = call.captured("operation.params");
+  const char* pointee = pointeeName(operationLayout(operation.op));
+  if (pointee != nullptr) operation.data = call.captured(std::string("operation.params.") + pointee);
+  return operation;
 }
 
-// The operations of a reader's access sequence, by the index each was
-// given when it was added; indices are not reused until the sequence is
-// initialised or discarded.
-struct AccessSequence {
-  uint32_t next = 0;
-  std::set<uint32_t> operations;
-};
-
-std::vector<uint8_t> nextOperationIndex(int64_t handle) {
-  AccessSequence sequence;
-  SessionStore<AccessSequence>::instance().get(handle, &sequence);
-  std::vector<uint8_t> index;
-  putField(&index, 0, sequence.next);
-  return index;
-}
-
-void countOperation(int64_t handle) {
-  SessionStore<AccessSequence>::instance().update(handle,
-                                                  [](AccessSequence& s) { s.operations.insert(s.next++); });
-}
-
-// False when the sequence holds no operation of that index.
-bool removeOperation(int64_t handle, uint32_t index) {
-  bool removed = false;
-  SessionStore<AccessSequence>::instance().update(handle,
-                                                  [&](AccessSequence& s) { removed = s.operations.erase(index) > 0; });
-  return removed;
+std::vector<uint8_t> u32Bytes(uint32_t value) {
+  std::vector<uint8_t> bytes;
+  putField(&bytes, 0, value);
+  return bytes;
 }
 
 // Initialising or discarding a sequence starts its indices over.
 int32_t answerClearingSequence(ApiCall& call, int64_t handle) {
   int32_t status = call.finish();
-  if (status == kSuccess) SessionStore<AccessSequence>::instance().put(handle, AccessSequence());
+  if (status == kSuccess) clearSequence(handle);
   return status;
+}
+
+int32_t performSequence(ApiCall& call, int64_t handle, bool readable) {
+  const char* fn = "RFID_PerformAccessSequence";
+  const int32_t status = call.finish();
+  if (call.scripted() || status != kSuccess) return status;
+  const ReaderPtr reader = findReader(handle);
+  if (!reader) return kInvalidHandle;
+  if (!readable) {
+    return rememberFailure(handle, kInvalidParam, fn, "a filter, antenna or trigger record cannot be read");
+  }
+  OperationPlan plan;
+  plan.kind = OperationKind::kAccessSequence;
+  plan.accessOperations = sequenceOperations(handle);
+  if (plan.accessOperations.empty()) {
+    return rememberFailure(handle, kInvalidParam, fn, "the access sequence holds no operation");
+  }
+  plan.antennas = antennaList(capturedOf(call), "antennaInfo");
+  plan.postFilter = readPostFilter(capturedOf(call), "accessFilter");
+  plan.triggers = readTriggers(call.captured("triggerInfo"));
+  return rememberFailure(handle, startOperation(reader, std::move(plan)), fn,
+                         "the reader already runs an inventory, locate, EAS scan or access sequence");
 }
 
 }  // namespace
@@ -164,56 +179,57 @@ int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, vo
                   void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
-  return sim::answerRead(call, handle, tag);
+  return sim::answerAccess(call, handle, "RFID_Read", sim::kOpRead, nullptr, tag);
 }
 
 int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_BlockPermalock",
+                           sim::kOpBlockPermalock, sim::pointeeName(sim::kPermalockParams), tag);
 }
 
 int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                              void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_NXPChangeConfig", sim::kOpNxpChangeConfig, nullptr, tag);
 }
 
 int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_ImpinjQTRead", sim::kOpQtRead, nullptr, tag);
 }
 
 int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_Authenticate", sim::kOpAuthenticate, nullptr, tag);
 }
 
 int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                          void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_Untraceable", sim::kOpUntraceable, nullptr, tag);
 }
 
 int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_ReadBuffer", sim::kOpReadBuffer, nullptr, tag);
 }
 
 int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                     void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
-  return sim::answerWithTag(call, tag);
+  return sim::answerAccess(call, handle, "RFID_Crypto", sim::kOpCrypto, nullptr, tag);
 }
 
 // Single operations without a result tag: handle, tag ID, length,
@@ -223,63 +239,64 @@ int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, v
                    void* antenna, void* reserved) {
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, sim::pointeeName(sim::kWriteParams), nullptr);
 }
 
 int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_BlockWrite",
+                           sim::kOpBlockWrite, sim::pointeeName(sim::kWriteParams), nullptr);
 }
 
 int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_BlockErase", sim::kOpBlockErase, nullptr, nullptr);
 }
 
 int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_Lock", sim::kOpLock, nullptr, nullptr);
 }
 
 int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_Kill", sim::kOpKill, nullptr, nullptr);
 }
 
 int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* reserved) {
   ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_Recommission", sim::kOpRecommission, nullptr, nullptr);
 }
 
 int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* reserved) {
   ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_NXPReadProtect", sim::kOpNxpReadProtect, nullptr, nullptr);
 }
 
 int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                        void* antenna, void* reserved) {
   ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_NXPSetEAS", sim::kOpNxpSetEas, nullptr, nullptr);
 }
 
 int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                            void* antenna, void* reserved) {
   ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
   sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_ImpinjQTWrite", sim::kOpQtWrite, nullptr, nullptr);
 }
 
 // Writes of one tag field take no filter: handle, tag ID, length,
@@ -291,7 +308,8 @@ int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t 
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_WriteAccessPassword",
+                           sim::kOpWriteAccessPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
@@ -300,7 +318,8 @@ int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t ta
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_WriteKillPassword",
+                           sim::kOpWriteKillPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
@@ -309,7 +328,8 @@ int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLeng
   call.blob("tagID", tagID, tagIDLength);
   sim::captureParams(call, "params", params, sim::kWriteFieldParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_WriteTagID",
+                           sim::kOpWriteTagId, sim::pointeeName(sim::kWriteFieldParams), nullptr);
 }
 
 // The one chip command without a tag ID.
@@ -317,7 +337,7 @@ int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, vo
   ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
   sim::captureParams(call, "params", params, sim::kNxpParams);
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  return call.finish();
+  return sim::answerAccess(call, handle, "RFID_NXPResetReadProtect", sim::kOpNxpResetReadProtect, nullptr, nullptr);
 }
 
 int32_t RFID_InitializeAccessSequence(int64_t handle) {
@@ -328,9 +348,9 @@ int32_t RFID_InitializeAccessSequence(int64_t handle) {
 int32_t RFID_AddOperationToAccessSequence(int64_t handle, void* operation, uint32_t* index) {
   ApiCall call("RFID_AddOperationToAccessSequence", handle, operation, index);
   sim::captureOperation(call, operation);
-  call.outputs({{index, sizeof *index, "index"}}, sim::nextOperationIndex(handle));
+  call.outputs({{index, sizeof *index, "index"}}, sim::u32Bytes(sim::nextOperationIndex(handle)));
   int32_t status = call.finish();
-  if (status == sim::kSuccess) sim::countOperation(handle);
+  if (status == sim::kSuccess) sim::addOperation(handle, sim::addedOperation(call));
   return status;
 }
 
@@ -347,20 +367,29 @@ int32_t RFID_DeleteOperationFromAccessSequence(int64_t handle, uint32_t index) {
 
 int32_t RFID_PerformAccessSequence(int64_t handle, void* filter, void* antenna, void* trigger, void* reserved) {
   ApiCall call("RFID_PerformAccessSequence", handle, filter, antenna, trigger, reserved);
-  sim::captureFilter(call, "accessFilter", filter);
-  sim::captureAntennaInfo(call, "antennaInfo", antenna);
-  sim::captureTriggerInfo(call, "triggerInfo", trigger);
-  return call.finish();
+  bool readable = sim::captureFilter(call, "accessFilter", filter);
+  readable = sim::captureAntennaInfo(call, "antennaInfo", antenna) && readable;
+  readable = sim::captureTriggerInfo(call, "triggerInfo", trigger) && readable;
+  return sim::performSequence(call, handle, readable);
 }
 
 int32_t RFID_StopAccessSequence(int64_t handle) {
   ApiCall call("RFID_StopAccessSequence", handle);
-  return call.finish();
+  const int32_t status = call.finish();
+  if (call.scripted() || status != sim::kSuccess) return status;
+  const sim::ReaderPtr reader = sim::findReader(handle);
+  if (!reader) return sim::kInvalidHandle;
+  return sim::rememberFailure(handle, sim::stopOperation(*reader, sim::OperationKind::kAccessSequence),
+                              "RFID_StopAccessSequence", "no access sequence is running");
 }
 
+// The counts of the last run: the operations carried out, then those refused.
 int32_t RFID_GetLastAccessResult(int64_t handle, uint32_t* first, uint32_t* second) {
   ApiCall call("RFID_GetLastAccessResult", handle, first, second);
-  call.outputs({{first, sizeof *first, "first"}, {second, sizeof *second, "second"}});
+  const sim::AccessCounts counts = sim::accessCounts(handle);
+  std::vector<uint8_t> both = sim::u32Bytes(counts.succeeded);
+  sim::putField(&both, 4, counts.failed);
+  call.outputs({{first, sizeof *first, "first"}, {second, sizeof *second, "second"}}, both);
   return call.finish();
 }
 

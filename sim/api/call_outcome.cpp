@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "reader/capabilities.h"
-#include "reader/status.h"
 #include "reader/last_error.h"
+#include "reader/status.h"
 
 namespace sim {
 

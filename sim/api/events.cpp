@@ -7,6 +7,7 @@
 #include "reader/event_objects.h"
 #include "api/c_api.h"
 #include "api/call_outcome.h"
+#include "reader/last_error.h"
 #include "reader/event_signals.h"
 #include "reader/status.h"
 
@@ -108,8 +109,9 @@ int32_t RFID_RegisterEventNotification(int64_t handle, uint32_t type, int64_t ev
   Recorder rec("RFID_RegisterEventNotification", {raw(handle), raw(type), raw(event)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
-  if (!isEventType(type)) return kNotFound;
-  if (!eventExists(event)) return kInvalidParam;
+  const char* fn = "RFID_RegisterEventNotification";
+  if (!isEventType(type)) return rememberFailure(handle, kNotFound, fn, "no event type " + std::to_string(type));
+  if (!eventExists(event)) return rememberFailure(handle, kInvalidParam, fn, "the event handle is not an event");
   registerEvent(handle, type, event);
   return kSuccess;
 }
@@ -118,7 +120,9 @@ int32_t RFID_DeregisterEventNotification(int64_t handle, uint32_t type) {
   Recorder rec("RFID_DeregisterEventNotification", {raw(handle), raw(type)});
   const CallOutcome call = finishCall(rec, handle);
   if (!call.proceeds()) return call.status;
-  return deregisterEvent(handle, type) ? kSuccess : kNotFound;
+  if (deregisterEvent(handle, type)) return kSuccess;
+  return rememberFailure(handle, kNotFound, "RFID_DeregisterEventNotification",
+                         "nothing is registered for event type " + std::to_string(type));
 }
 
 int32_t RFID_GetEventData(int64_t handle, uint32_t type, void* record) {

@@ -7,27 +7,18 @@
 #include "api/c_api.h"
 #include "api/call_outcome.h"
 #include "reader/operation.h"
+#include "reader/antenna_selection.h"
+#include "reader/last_error.h"
 #include "reader/status.h"
 #include "reader/last_error.h"
 
 namespace sim {
 namespace {
 
-// The antennas a captured ANTENNA_INFO selects; empty (every antenna) for a
-// NULL record, a NULL list or a length of 0.
-std::vector<uint16_t> readAntennas(const Recorder& rec, const std::string& name) {
-  const Blob& list = rec.captured(name + ".antennaList");
-  std::vector<uint16_t> antennas;
-  for (size_t at = 0; at + 2 <= list.bytes.size(); at += 2) {
-    antennas.push_back(fieldAt<uint16_t>(list, at));
-  }
-  return antennas;
-}
-
 OperationPlan planFor(OperationKind kind, const Recorder& rec) {
   OperationPlan plan;
   plan.kind = kind;
-  plan.antennas = readAntennas(rec, "antennaInfo");
+  plan.antennas = antennaList(capturedOf(rec), "antennaInfo");
   plan.triggers = readTriggers(rec.captured("triggerInfo"));
   plan.triggers.reports = readTagReportPlan(rec, "triggerInfo");
   return plan;

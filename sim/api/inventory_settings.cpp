@@ -7,6 +7,7 @@
 #include "api/c_api.h"
 #include "api/call_outcome.h"
 #include "reader/capabilities.h"
+#include "reader/last_error.h"
 #include "reader/status.h"
 
 namespace sim {
@@ -66,7 +67,8 @@ int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
   Recorder rec("RFID_DeletePreFilter", {raw(handle), raw(antenna), raw(index)});
   const CallOutcome call = finishCall(rec, handle, true, preFilterAntennaProblem(antenna));
   if (!call.proceeds()) return call.status;
-  return deletePreFilter(*call.reader, antenna, index);
+  return rememberFailure(handle, deletePreFilter(*call.reader, antenna, index), "RFID_DeletePreFilter",
+                         "antenna " + std::to_string(antenna) + " has no pre-filter " + std::to_string(index));
 }
 
 int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {

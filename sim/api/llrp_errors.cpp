@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "record/api_call.h"
+#include "reader/last_error.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
 #include "reader/last_error.h"

@@ -48,6 +48,7 @@ double readChance(int rssi) { return std::clamp((rssi + 95) / 23.0, 0.05, 1.0); 
 
 std::optional<int8_t> FieldPlan::presence(uint32_t tag, uint16_t antenna, uint64_t fieldMs) const {
   const SimTag& t = (*tags)[tag];
+  if (t.killed) return std::nullopt;  // gone for good
   if (windows[tag].empty()) {
     auto own = t.rssiByAntenna.find(antenna);
     if (own == t.rssiByAntenna.end()) return std::nullopt;

@@ -2,11 +2,11 @@
 
 #include <cwchar>
 
-#include "reader/session_store.h"
+#include "record/captured_fields.h"
 #include "reader/sessions.h"
+#include "reader/session_store.h"
 #include "reader/status.h"
 #include "reader/tag_read.h"
-#include "record/captured_fields.h"
 
 namespace sim {
 namespace {
@@ -45,6 +45,9 @@ const wchar_t* describeStatus(int32_t status) {
     case kNoOperationRunning: return L"No operation is running";
     case kNotFound: return L"Not found";
     case kOutOfMemory: return L"Out of memory";
+    case kMemoryOverrun: return L"Tag memory overrun";
+    case kMemoryLocked: return L"Tag memory locked";
+    case kPasswordMismatch: return L"Incorrect tag password";
     default: return L"Unknown status";
   }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "reader/antenna_selection.h"
 #include "reader/event_signals.h"
 #include "reader/field_settings.h"
 #include "reader/rounds.h"
@@ -89,15 +90,17 @@ void Operation::readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen) {
   Run run;
   run.deadline = deadlineOf(plan_.triggers.stop, Clock::now());
   run.gpiSeen = gpiSeen;
+  const bool access = plan_.kind == OperationKind::kAccessSequence;
+  if (access) resetAccessCounts(reader_->handle);
   reader_->reports.start(plan_.triggers.reports, reader_->field.fieldMs);
-  raiseEvent(reader_->handle, kInventoryStartEvent, {});
+  raiseEvent(reader_->handle, access ? kAccessStartEvent : kInventoryStartEvent, {});
   while (!stopRequested_) {
     for (Bytes& epc : round()) run.uniqueTags.insert(std::move(epc));
     ++run.rounds;
     if (stopTriggerReached(run)) break;
     waitForNextRound(lock, run);
   }
-  raiseEvent(reader_->handle, kInventoryStopEvent, {});
+  raiseEvent(reader_->handle, access ? kAccessStopEvent : kInventoryStopEvent, {});
   if (reader_->storage.discardTagsOnInventoryStop()) reader_->buffer.clear();
 }
 
@@ -140,16 +143,13 @@ std::vector<Bytes> Operation::round() {
     case OperationKind::kEasScan:
       easRound(*reader_, *tags, antennas());
       return {};
+    case OperationKind::kAccessSequence:
+      return accessRound(*reader_, antennas(), plan_.postFilter, plan_.accessOperations);
   }
   return {};
 }
 
-std::vector<uint16_t> Operation::antennas() const {
-  if (!plan_.antennas.empty()) return plan_.antennas;
-  std::vector<uint16_t> all;
-  for (uint16_t a = 1; a <= kAntennaCount; ++a) all.push_back(a);
-  return all;
-}
+std::vector<uint16_t> Operation::antennas() const { return orEveryAntenna(plan_.antennas); }
 
 int32_t startOperation(const ReaderPtr& reader, OperationPlan plan) {
   std::lock_guard<std::mutex> lock(reader->mutex);

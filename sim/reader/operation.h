@@ -1,4 +1,5 @@
-// A running reader operation (inventory, tag locationing or EAS scan): one
+// A running reader operation (inventory, tag locationing, EAS scan or access
+// sequence): one
 // background thread per operation that waits for the start trigger, reads
 // in rounds of about 25 ms until the stop trigger, and repeats for periodic
 // and GPI start triggers. The operation stays active, even after its stop
@@ -13,20 +14,22 @@
 #include <thread>
 #include <vector>
 
+#include "reader/access_sequence.h"
 #include "reader/filters.h"
 #include "reader/state.h"
 #include "reader/triggers.h"
 
 namespace sim {
 
-enum class OperationKind { kInventory, kLocate, kEasScan };
+enum class OperationKind { kInventory, kLocate, kEasScan, kAccessSequence };
 
 struct OperationPlan {
   OperationKind kind = OperationKind::kInventory;
   std::vector<uint16_t> antennas;  // empty: every antenna
-  std::optional<PostFilterRule> postFilter;
+  std::optional<PostFilterRule> postFilter;  // the access filter of an access sequence
   Triggers triggers;
   Bytes locateEpc;
+  std::vector<SequencedOperation> accessOperations;
 };
 
 class Operation {

@@ -67,10 +67,7 @@ Bytes SimTag::bank(uint32_t memoryBank) const {
       appendWord(out, accessPassword, 4);
       return out;
     case kBankEpc:
-      appendWord(out, crc, 2);
-      appendWord(out, pc, 2);
-      out.insert(out.end(), epc.begin(), epc.end());
-      return out;
+      return epcBank;
     case kBankTid:
       return tid;
     case kBankUser:
@@ -95,13 +92,56 @@ uint16_t pcForEpcLength(size_t epcBytes) {
   return static_cast<uint16_t>(((epcBytes / 2) & 0x1F) << 11);
 }
 
+namespace {
+
+constexpr size_t kXpcWordAt = 0x21;
+
+uint16_t wordAt(const Bytes& bytes, size_t word) {
+  return static_cast<uint16_t>(bytes[2 * word] << 8 | bytes[2 * word + 1]);
+}
+
+// StoredCRC over the PC word and the EPC, as the tag computes it.
+uint16_t storedCrc(uint16_t pc, const Bytes& epc) {
+  Bytes covered;
+  appendWord(covered, pc, 2);
+  covered.insert(covered.end(), epc.begin(), epc.end());
+  return crc16Genibus(covered.data(), covered.size());
+}
+
+}  // namespace
+
 void completeProtocolWords(SimTag& tag) {
   tag.pc = pcForEpcLength(tag.epc.size());
   if (tag.xpc != 0) tag.pc |= kXpcIndicator;
-  Bytes covered;
-  appendWord(covered, tag.pc, 2);
-  covered.insert(covered.end(), tag.epc.begin(), tag.epc.end());
-  tag.crc = crc16Genibus(covered.data(), covered.size());
+  tag.crc = storedCrc(tag.pc, tag.epc);
+  tag.epcBank.clear();
+  appendWord(tag.epcBank, tag.crc, 2);
+  appendWord(tag.epcBank, tag.pc, 2);
+  tag.epcBank.insert(tag.epcBank.end(), tag.epc.begin(), tag.epc.end());
+  if (tag.xpc == 0) return;
+  tag.epcBank.resize(2 * kXpcWordAt, 0);
+  if (tag.xpc > 0xFFFF) appendWord(tag.epcBank, tag.xpc >> 16, 2);
+  appendWord(tag.epcBank, tag.xpc & 0xFFFF, 2);
+}
+
+bool protocolWordsFromEpcBank(SimTag& tag, const Bytes& epcBank) {
+  if (epcBank.size() < 4) return false;
+  const uint16_t pc = wordAt(epcBank, 1);
+  const size_t epcBytes = 2 * static_cast<size_t>(pc >> 11);
+  if (4 + epcBytes > epcBank.size()) return false;
+  tag.pc = pc;
+  tag.epc.assign(epcBank.begin() + 4, epcBank.begin() + 4 + static_cast<std::ptrdiff_t>(epcBytes));
+  tag.xpc = 0;
+  const size_t words = epcBank.size() / 2;
+  if ((pc & kXpcIndicator) != 0 && words > kXpcWordAt) {
+    tag.xpc = wordAt(epcBank, kXpcWordAt);
+    if (words > kXpcWordAt + 1) tag.xpc = tag.xpc << 16 | wordAt(epcBank, kXpcWordAt + 1);
+  }
+  tag.crc = storedCrc(pc, tag.epc);
+  tag.epcBank = epcBank;
+  tag.epcBank[0] = static_cast<uint8_t>(tag.crc >> 8);
+  tag.epcBank[1] = static_cast<uint8_t>(tag.crc);
+  return true;
 }
 
 std::shared_ptr<const Population> currentPopulation() {
@@ -115,6 +155,14 @@ std::string loadPopulation(const std::string& text) {
   if (!parsed.error.empty()) return parsed.error;
   replaceCurrent(makeShared(std::move(parsed.tags)));
   return {};
+}
+
+void changePopulation(const std::function<void(Population&)>& change) {
+  std::lock_guard<std::mutex> lock(current().mutex);
+  if (!current().tags) current().tags = defaultPopulation();
+  Population copy = *current().tags;
+  change(copy);
+  current().tags = makeShared(std::move(copy));
 }
 
 void useBuiltInPopulation() { replaceCurrent(makeShared(builtInPopulation())); }

@@ -60,24 +60,24 @@ std::vector<Bytes> inventoryRound(Reader& reader, const std::shared_ptr<const Po
   return epcs;
 }
 
-size_t bufferReads(Reader& reader, const std::vector<TagRead>& reads) {
+std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads) {
   const uint32_t maxTags = reader.storage.maxTagCount();
   const size_t before = reader.buffer.size();
-  size_t buffered = 0;
+  std::vector<Bytes> read;
   bool dropped = false;
   for (const TagRead& r : reads) {
     if (reader.buffer.add(r, maxTags) == TagBuffer::Added::kDropped) {
       dropped = true;
     } else {
-      ++buffered;
+      read.push_back(r.epc);
     }
   }
-  if (reader.reports.signalDue(buffered, reader.field.fieldMs)) raiseDataless(reader, kTagReadEvent);
+  if (reader.reports.signalDue(read.size(), reader.field.fieldMs)) raiseDataless(reader, kTagReadEvent);
   if (passesWarningLevel(before, reader.buffer.size(), maxTags)) {
     raiseDataless(reader, kBufferFullWarningEvent);
   }
   if (dropped) raiseDataless(reader, kBufferFullEvent);
-  return buffered;
+  return read;
 }
 
 std::vector<Bytes> locateRound(Reader& reader, const Population& tags,

@@ -23,10 +23,10 @@ std::vector<Bytes> inventoryRound(Reader& reader, const std::shared_ptr<const Po
                                   const std::optional<PostFilterRule>& postFilter);
 
 // Puts the records into the buffer, signalling TAG_READ when the reader's
-// report settings say so, BUFFER_FULL when new ones were dropped and
-// BUFFER_FULL_WARNING when the buffer passed 90 %. Returns how many were
-// buffered.
-size_t bufferReads(Reader& reader, const std::vector<TagRead>& reads);
+// report settings say so (reader/tag_reports.h), BUFFER_FULL when new ones
+// were dropped and BUFFER_FULL_WARNING when the buffer passed 90 %. Returns
+// the EPCs buffered.
+std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads);
 
 // One sighting of the tag on the antenna with that RSSI, channel and phase
 // drawn by the reader, seen at the stamp. Without RSSI and stamp: its own

@@ -18,9 +18,14 @@ void merge(TagRead& kept, const TagRead& again) {
 }  // namespace
 
 size_t TagBuffer::KeyHash::operator()(const Key& key) const {
-  size_t h = 1469598103934665603ull ^ key.second;  // FNV-1a over the antenna and the EPC
-  for (uint8_t b : key.first) h = (h ^ b) * 1099511628211ull;
+  // FNV-1a over the antenna, the sequence index and the EPC
+  size_t h = 1469598103934665603ull ^ std::get<1>(key) ^ (static_cast<size_t>(std::get<2>(key)) << 16);
+  for (uint8_t b : std::get<0>(key)) h = (h ^ b) * 1099511628211ull;
   return h;
+}
+
+TagBuffer::Key TagBuffer::keyOf(const TagRead& read) {
+  return {read.epc, read.antenna, read.access ? read.access->sequenceIndex + 1 : 0};
 }
 
 TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
@@ -29,21 +34,21 @@ TagBuffer::Added TagBuffer::add(const TagRead& read, size_t maxReads) {
     reads_.push_back(read);
     return Added::kNew;
   }
-  auto found = index_.find({read.epc, read.antenna});
+  auto found = index_.find(keyOf(read));
   if (found != index_.end()) {
     merge(*found->second, read);
     return Added::kUpdated;
   }
   if (reads_.size() >= maxReads) return Added::kDropped;
   reads_.push_back(read);
-  index_[{read.epc, read.antenna}] = std::prev(reads_.end());
+  index_[keyOf(read)] = std::prev(reads_.end());
   return Added::kNew;
 }
 
 std::optional<TagRead> TagBuffer::pop() {
   if (reads_.empty()) return std::nullopt;
   TagRead read = std::move(reads_.front());
-  auto indexed = index_.find({read.epc, read.antenna});
+  auto indexed = index_.find(keyOf(read));
   if (indexed != index_.end() && indexed->second == reads_.begin()) index_.erase(indexed);
   reads_.pop_front();
   return read;

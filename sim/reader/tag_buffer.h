@@ -9,6 +9,7 @@
 #include <list>
 #include <unordered_map>
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -29,10 +30,13 @@ class TagBuffer {
   void clear();
 
  private:
-  using Key = std::pair<Bytes, uint16_t>;  // EPC and antenna
+  // EPC, antenna, and 0 for a read without an access result, else the
+  // access sequence index + 1: each operation's result is kept apart.
+  using Key = std::tuple<Bytes, uint16_t, uint32_t>;
   struct KeyHash {
     size_t operator()(const Key& key) const;
   };
+  static Key keyOf(const TagRead& read);
   std::list<TagRead> reads_;
   std::unordered_map<Key, std::list<TagRead>::iterator, KeyHash> index_;
 };

@@ -2,7 +2,7 @@
 // "KEY=value" separated by blanks:
 //   EPC=hex (required, whole words)  TID=hex  USER=hex  ACCESS=hex8  KILL=hex8
 //   XPC=hex (up to 8 digits)  ANT=1,3  RSSI=-52 or one value per antenna
-//   EAS=0|1
+//   EAS=0|1  LOCK=EPC:locked,USER:permalocked  PERMALOCK=USER:0-3,6  KILLED=0|1
 #include <cctype>
 #include <set>
 #include <sstream>
@@ -87,7 +87,8 @@ struct TagFields {
 
 TagFields splitFields(const std::string& line) {
   static const std::set<std::string> kKeys = {"EPC", "TID", "USER", "ACCESS", "KILL",
-                                              "XPC", "ANT", "RSSI", "EAS"};
+                                              "XPC", "ANT", "RSSI", "EAS", "LOCK", "PERMALOCK",
+                                              "KILLED"};
   TagFields fields;
   std::stringstream in(line);
   std::string token;
@@ -126,6 +127,59 @@ std::map<uint16_t, int8_t> parseField(const TagFields& fields) {
   return field;
 }
 
+std::vector<std::string> splitList(const std::string& text) {
+  std::vector<std::string> items;
+  std::stringstream in(text);
+  std::string item;
+  while (std::getline(in, item, ',')) items.push_back(item);
+  if (!text.empty() && text.back() == ',') items.push_back("");
+  return items;
+}
+
+LockState parseLockState(const std::string& text) {
+  for (LockState state : {LockState::kUnlocked, LockState::kLocked, LockState::kPermalocked,
+                          LockState::kPermaUnlocked}) {
+    if (text == lockStateName(state)) return state;
+  }
+  throw LineError("unknown lock state '" + text + "' (unlocked, locked, permalocked or permaunlocked)");
+}
+
+LockField parseLockField(const std::string& text) {
+  for (size_t i = 0; i < kLockFieldCount; ++i) {
+    if (text == lockFieldKey(static_cast<LockField>(i))) return static_cast<LockField>(i);
+  }
+  throw LineError("unknown LOCK field '" + text + "' (KILL, ACCESS, EPC, TID or USER)");
+}
+
+// LOCK=EPC:locked,USER:permalocked
+void parseLocks(const std::string& text, TagLocks* locks) {
+  std::set<LockField> seen;
+  for (const std::string& item : splitList(text)) {
+    const size_t colon = item.find(':');
+    if (colon == std::string::npos) throw LineError("LOCK needs FIELD:state pairs, as EPC:locked");
+    const LockField field = parseLockField(item.substr(0, colon));
+    if (!seen.insert(field).second) throw LineError(std::string("LOCK names ") + lockFieldKey(field) + " twice");
+    locks->fields[field] = parseLockState(item.substr(colon + 1));
+  }
+}
+
+// PERMALOCK=USER:0-3,6: USER blocks of one word each.
+std::set<uint16_t> parsePermalock(const std::string& text, size_t userBytes) {
+  const std::string prefix = "USER:";
+  if (text.compare(0, prefix.size(), prefix) != 0) throw LineError("PERMALOCK needs USER:blocks, as USER:0-3,6");
+  const long words = static_cast<long>(userBytes / 2);
+  if (words == 0) throw LineError("PERMALOCK needs USER memory");
+  std::set<uint16_t> blocks;
+  for (const std::string& item : splitList(text.substr(prefix.size()))) {
+    const size_t dash = item.find('-');
+    const long first = parseNumber("PERMALOCK block", item.substr(0, dash), 0, words - 1);
+    const long last =
+        dash == std::string::npos ? first : parseNumber("PERMALOCK block", item.substr(dash + 1), first, words - 1);
+    for (long b = first; b <= last; ++b) blocks.insert(static_cast<uint16_t>(b));
+  }
+  return blocks;
+}
+
 SimTag parseTag(const TagFields& fields) {
   SimTag tag;
   tag.epc = parseEpc(fields);
@@ -136,6 +190,12 @@ SimTag parseTag(const TagFields& fields) {
   if (fields.has("XPC")) tag.xpc = parseHexWord("XPC", fields.get("XPC"));
   if (fields.has("EAS")) tag.eas = parseNumber("EAS", fields.get("EAS"), 0, 1) == 1;
   tag.rssiByAntenna = parseField(fields);
+  if (fields.has("LOCK")) parseLocks(fields.get("LOCK"), &tag.locks);
+  if (fields.has("PERMALOCK")) tag.locks.permalockedBlocks = parsePermalock(fields.get("PERMALOCK"), tag.user.size());
+  if (fields.has("KILLED") && parseNumber("KILLED", fields.get("KILLED"), 0, 1) == 1) {
+    tag.killed = true;
+    tag.rssiByAntenna.clear();
+  }
   completeProtocolWords(tag);
   return tag;
 }

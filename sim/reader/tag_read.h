@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "reader/population.h"
 
@@ -18,6 +19,17 @@ SystemTime utcNow();
 struct SeenStamp {
   SystemTime utc{};
   uint64_t upTimeMicros = 0;  // since the reader's start
+};
+
+// What an access operation did to the tag, reported with the read.
+struct AccessResult {
+  uint32_t opCode = 0;  // ACCESS_OPERATION_CODE
+  int32_t opStatus = 0;
+  uint32_t memoryBank = 0;
+  uint32_t byteOffset = 0;
+  bool hasWord = false;  // a QT control word or configuration word read back
+  int16_t word = 0;
+  uint32_t sequenceIndex = 0;  // the operation's index in an access sequence
 };
 
 struct TagRead {
@@ -35,6 +47,7 @@ struct TagRead {
   bool hasLocation = false;
   int16_t relativeDistance = 0;
   Bytes memoryBankData;  // none for inventory reads
+  std::optional<AccessResult> access;  // none for inventory reads
   uint32_t tagEvent = 0;  // TagEvent of reader/tag_reports.h; 0 for a plain read
   SystemTime tagEventTime{};
 };

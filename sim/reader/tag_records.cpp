@@ -28,12 +28,17 @@ constexpr size_t kLastSeenUpTime = 48;
 constexpr size_t kPeakRssi = 72;
 constexpr size_t kChannelIndex = 74;
 constexpr size_t kTagSeenCount = 76;
+constexpr size_t kOpCode = 80;
+constexpr size_t kOpStatus = 84;
+constexpr size_t kMemoryBank = 88;
 constexpr size_t kMemoryBankDataPtr = 96;
+constexpr size_t kMemoryBankDataByteOffset = 104;
 constexpr size_t kMemoryBankDataLength = 108;
 constexpr size_t kMemoryBankDataAllocated = 112;
 constexpr size_t kTagEvent = 116;
 constexpr size_t kTagEventTimeStamp = 120;
 constexpr size_t kLocationInfoPtr = 136;
+constexpr size_t kOpResultPtr = 144;
 constexpr size_t kPhaseInfo = 168;
 
 constexpr uint32_t kMemoryUsedBytes = 192;  // the bytes up to the GPS pointer
@@ -44,6 +49,7 @@ struct OwnedRecord {
   uint8_t tagId[kTagIdCapacity] = {};
   uint8_t memoryBank[kMemoryBankCapacity] = {};
   int16_t location[4] = {};
+  int16_t opResult[8] = {};
 };
 
 // Records handed back are kept for reuse (up to kSpareRecords), so a
@@ -113,6 +119,18 @@ void fillMemoryBank(OwnedRecord& owned, const TagRead& read, const RecordFill& f
   store<uint32_t>(r, kMemoryBankDataAllocated, kMemoryBankCapacity);
 }
 
+void fillAccessResult(OwnedRecord& owned, const TagRead& read) {
+  if (!read.access) return;
+  const AccessResult& a = *read.access;
+  uint8_t* r = owned.record;
+  store<uint32_t>(r, kOpCode, a.opCode);
+  store<int32_t>(r, kOpStatus, a.opStatus);
+  store<uint32_t>(r, kMemoryBank, a.memoryBank);
+  store<uint32_t>(r, kMemoryBankDataByteOffset, a.byteOffset);
+  owned.opResult[0] = a.word;
+  storePtr(r, kOpResultPtr, a.hasWord ? owned.opResult : nullptr);
+}
+
 void fillLocation(OwnedRecord& owned, const TagRead& read) {
   owned.location[0] = read.relativeDistance;
   storePtr(owned.record, kLocationInfoPtr, read.hasLocation ? owned.location : nullptr);
@@ -162,6 +180,7 @@ bool fillTagRecord(void* record, const TagRead& read, const RecordFill& fill) {
   fillSighting(owned.record, read, fill);
   fillMemoryBank(owned, read, fill);
   fillLocation(owned, read);
+  fillAccessResult(owned, read);
   return true;
 }
 

@@ -24,10 +24,10 @@
 #include <vector>
 
 #include "record/journal.h"
-#include "reader/sessions.h"
-#include "reader/status.h"
 #include "reader/capabilities.h"
 #include "reader/last_error.h"
+#include "reader/sessions.h"
+#include "reader/status.h"
 
 namespace sim {
 
@@ -101,6 +101,9 @@ class ApiCall {
 
   // Appends the journal entry and settles the status (see above).
   int32_t finish();
+  // After finish(): whether the test scripted the status (then it stands,
+  // and the call changes no reader state).
+  bool scripted() const { return scripted_; }
 
  private:
   Recorder recorder_;
@@ -109,6 +112,7 @@ class ApiCall {
   bool checksHandle_ = false;
   bool missing_ = false;
   std::string refusal_;
+  bool scripted_ = false;
   std::vector<std::string> names_;
 
   void captureOuts(std::initializer_list<Out> outs);
@@ -169,12 +173,12 @@ inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
 inline int32_t ApiCall::finish() {
   refuse(selectionProblem(*this));
   int32_t status = kSuccess;
-  const bool scripted = recorder_.finish(&status);
-  if (!scripted) {
+  scripted_ = recorder_.finish(&status);
+  if (!scripted_) {
     if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
     if (missing_ || !refusal_.empty()) status = kInvalidParam;
   }
-  const bool refused = !scripted && !missing_ && !refusal_.empty();
+  const bool refused = !scripted_ && !missing_ && !refusal_.empty();
   if (checksHandle_) rememberFailure(handle_, status, fn_, refused ? refusal_ : std::string());
   return status;
 }

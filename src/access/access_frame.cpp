@@ -9,12 +9,6 @@ namespace orla {
 AccessFrame::AccessFrame(JNIEnv* env, jint readerHandle)
     : env_(env), handle_(static_cast<READER_HANDLE>(readerHandle)) {}
 
-AccessFrame::~AccessFrame() {
-  if (tag_ != nullptr) RFID_DeallocateTag(handle_, tag_);
-  clearFilter();
-  releaseTagID();
-}
-
 const uint8_t* AccessFrame::tagID(jstring text, jint length) {
   std::memset(tagText_, 0, sizeof tagText_);
   JavaToWSZ(env_, text, tagText_);
@@ -43,18 +37,12 @@ void AccessFrame::returnTag(RFID_STATUS status, jboolean utcTime) {
   if (tag_ == nullptr) return;
   if (status == 0) SetTagDataToJobject(env_, tagData_, tag_, utcTime != JNI_FALSE);
   RFID_DeallocateTag(handle_, tag_);
-  tag_ = nullptr;
 }
 
 void AccessFrame::clearFilter() {
-  if (!filterBuilt_) return;
-  clearAccessFilter(&filter_);
-  filterBuilt_ = false;
+  if (filterBuilt_) clearAccessFilter(&filter_);
 }
 
-void AccessFrame::releaseTagID() {
-  delete[] tagID_;
-  tagID_ = nullptr;
-}
+void AccessFrame::releaseTagID() { delete[] tagID_; }
 
 }  // namespace orla

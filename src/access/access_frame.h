@@ -1,8 +1,9 @@
 // What every single tag access operation holds for the length of one call:
 // the tag ID bytes, the result tag record obtained from the reader, the
 // antenna selection and the access filter. Each step is an explicit call,
-// so an entry point reads in the order of its own steps; the destructor
-// only gives back what an entry point did not (it always does).
+// so an entry point reads in the order of its own steps. Giving back is
+// explicit too (returnTag, clearFilter, releaseTagID): the frame releases
+// nothing by itself, so a step an entry point leaves out stays left out.
 #pragma once
 
 #include <jni.h>
@@ -20,7 +21,6 @@ class AccessFrame {
   AccessFrame(JNIEnv* env, jint readerHandle);
   AccessFrame(const AccessFrame&) = delete;
   AccessFrame& operator=(const AccessFrame&) = delete;
-  ~AccessFrame();
 
   // The reader handle, sign-extended.
   READER_HANDLE handle() const { return handle_; }

@@ -80,7 +80,7 @@ void fillBlockPermalockParams(JNIEnv* env, jobject params, BLOCK_PERMALOCK_ACCES
   record->byteOffset = getUint16FromJobject(env, params, "byteOffset");
   record->byteCount = getUint16FromJobject(env, params, "byteCount");
   record->maskLength = getUint16FromJobject(env, params, "maskLength");
-  record->readLock = getCBoolFromJobject(env, params, "readLock");
+  record->readLock = toCBool(getBoolFromJobject(env, params, "readLock"));
   record->mask = new uint8_t[record->maskLength];
   if (record->maskLength != 0) getByteArrayInJobject(env, params, "mask", record->mask, record->maskLength);
 }
@@ -100,7 +100,7 @@ template void fillAccessPasswordParams(JNIEnv*, jobject, IMPINJ_QT_READ_PARAMS*)
 
 void fillNxpSetEasParams(JNIEnv* env, jobject params, NXP_SET_EAS_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->EASState = getCBoolFromJobject(env, params, "EASState");
+  record->EASState = toCBool(getBoolFromJobject(env, params, "EASState"));
 }
 
 void fillNxpChangeConfigParams(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PARAMS* record) {
@@ -110,7 +110,7 @@ void fillNxpChangeConfigParams(JNIEnv* env, jobject params, NXP_CHANGE_CONFIG_PA
 
 void fillImpinjQtWriteParams(JNIEnv* env, jobject params, IMPINJ_QT_WRITE_PARAMS* record) {
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
-  record->qtPersist = getCBoolFromJobject(env, params, "qtPersist");
+  record->qtPersist = toCBool(getBoolFromJobject(env, params, "qtPersist"));
   jobject qtData = getJobjectFromJobject(env, params, "qtData", kQtDataSignature);
   record->qtControlData = getUint16FromJobject(env, qtData, "qtControlData");
 }
@@ -235,8 +235,8 @@ IMPINJ_QT_READ_PARAMS* newImpinjQtReadParams(JNIEnv* env, jobject params) {
 AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new AUTHENTICATE_PARAMS();
-  record->sendRsp = getCBoolFromJobject(env, params, "sendRsp");
-  record->incRespLen = getCBoolFromJobject(env, params, "incRespLen");
+  record->sendRsp = toCBool(getBoolFromJobject(env, params, "sendRsp"));
+  record->incRespLen = toCBool(getBoolFromJobject(env, params, "incRespLen"));
   record->CSI = getUint8FromJobject(env, params, "CSI");
   record->length = getUint16FromJobject(env, params, "length");
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
@@ -246,10 +246,10 @@ AUTHENTICATE_PARAMS* newAuthenticateParams(JNIEnv* env, jobject params) {
 
 void fillUntraceableParams(JNIEnv* env, jobject params, UNTRACEABLE_PARAMS* record) {
   *record = UNTRACEABLE_PARAMS();
-  record->assertU = getCBoolFromJobject(env, params, "assertU");
-  record->hideEPC = getCBoolFromJobject(env, params, "hideEPC");
+  record->assertU = toCBool(getBoolFromJobject(env, params, "assertU"));
+  record->hideEPC = toCBool(getBoolFromJobject(env, params, "hideEPC"));
   record->EPCLength = getUint8FromJobject(env, params, "EPCLength");
-  record->hideUser = getCBoolFromJobject(env, params, "hideUser");
+  record->hideUser = toCBool(getBoolFromJobject(env, params, "hideUser"));
   record->accessPassword = getLowUint32FromJobject(env, params, "accessPassword");
   record->hideTID = getEnumFieldFromJobject(env, params, "hideTID", kTidHideStateSignature);
   record->operatingRange = getEnumFieldFromJobject(env, params, "operatingRange", kOperatingRangeSignature);
@@ -266,7 +266,7 @@ CRYPTO_PARAMS* newCryptoParams(JNIEnv* env, jobject params) {
   if (params == nullptr) return nullptr;
   auto* record = new CRYPTO_PARAMS();
   record->keyID = getUint8FromJobject(env, params, "keyID");
-  record->customData = getCBoolFromJobject(env, params, "customData");
+  record->customData = toCBool(getBoolFromJobject(env, params, "customData"));
   record->profile = getUint8FromJobject(env, params, "profile");
   record->offset = getUint8FromJobject(env, params, "offset");
   record->blockCount = getUint8FromJobject(env, params, "blockCount");

@@ -127,11 +127,8 @@ void* SequenceParams::fill(JNIEnv* env, jobject operation, uint32_t opCode) {
 
 void SequenceParams::release() {
   delete[] writeData_;
-  writeData_ = nullptr;
   if (record_ != nullptr) deleteRecord_(record_);
-  record_ = nullptr;
   delete[] privileges_;
-  privileges_ = nullptr;
 }
 
 }  // namespace orla

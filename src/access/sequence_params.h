@@ -11,13 +11,13 @@ namespace orla {
 // One operation's parameter record and the buffers filled on its way. The
 // write data and the lock privilege buffer belong to this holder and go
 // with the record; the block-permalock mask does not: the record points at
-// it, and the caller leaves it allocated.
+// it, and the caller leaves it allocated. The holder frees nothing by
+// itself: the caller calls release().
 class SequenceParams {
  public:
   SequenceParams() = default;
   SequenceParams(const SequenceParams&) = delete;
   SequenceParams& operator=(const SequenceParams&) = delete;
-  ~SequenceParams() { release(); }
 
   // Reads the Java parameters that opCode calls for from their field of the
   // operation, allocates the record (zeroed only for the codes whose record
@@ -25,8 +25,8 @@ class SequenceParams {
   // parameters. The field's object must not be null. Call at most once.
   void* fill(JNIEnv* env, jobject operation, uint32_t opCode);
 
-  // Frees the write data, then the record, then the privilege buffer; later
-  // calls do nothing. Never frees a block-permalock mask.
+  // Frees the write data, then the record, then the privilege buffer.
+  // Never frees a block-permalock mask.
   void release();
 
  private:

@@ -171,7 +171,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetPhysicalAnt
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetAntennaMode(JNIEnv* env, jclass,
                                                                                 jint readerHandle,
                                                                                 jobject antennaMode) {
-  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, antennaMode));
+  return RFID_SetAntennaMode(static_cast<READER_HANDLE>(readerHandle), getEnumValueFromJobject(env, antennaMode, 0));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetAntennaMode(JNIEnv* env, jclass,

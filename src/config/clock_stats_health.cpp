@@ -7,6 +7,7 @@
 #include <cwchar>
 #include <memory>
 
+#include "bridge/pinned_array.h"
 #include "bridge/system_time.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"

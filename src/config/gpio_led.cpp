@@ -95,7 +95,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetUserLED(JNI
                                                                              jobject ledInfo) {
   LED_INFO record;
   record.duration = getIntFromJobject(env, ledInfo, "duration");
-  record.blink = getCBoolFromJobject(env, ledInfo, "blink");
+  record.blink = toCBool(getBoolFromJobject(env, ledInfo, "blink"));
   record.ledColor = static_cast<int32_t>(getEnumFieldFromJobject(env, ledInfo, "ledColor", kLedColorSignature));
   std::memset(record.reserved16, 0, sizeof record.reserved16);
   return RFID_SetUserLED(static_cast<READER_HANDLE>(readerHandle), &record);

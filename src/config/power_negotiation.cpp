@@ -30,7 +30,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetPowerNegoti
                                                                                            jint readerHandle,
                                                                                            jobject state) {
   return RFID_SetPowerNegotiationState(static_cast<READER_HANDLE>(readerHandle),
-                                       getCBoolFromJobject(env, state, "status"));
+                                       toCBool(getBoolFromJobject(env, state, "status")));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetPowerNegotiationState(JNIEnv* env, jclass,

@@ -111,7 +111,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetUSBOperatio
                                                                                       jint readerHandle,
                                                                                       jobject settings) {
   USB_OPERATION_MODE_SETTINGS record = {};
-  record.allowLLRPConnectionOverride = getCBoolFromJobject(env, settings, "allowLLRPConnectionOverride");
+  record.allowLLRPConnectionOverride = toCBool(getBoolFromJobject(env, settings, "allowLLRPConnectionOverride"));
   record.mode = static_cast<int32_t>(getEnumFieldFromJobject(env, settings, "mode", kUsbOperationModeSignature));
   return RFID_SetUSBOperationMode(static_cast<READER_HANDLE>(readerHandle), &record);
 }

@@ -6,11 +6,11 @@
 #include "bridge/c_bool.h"
 #include "bridge/enum_field.h"
 #include "bridge/name_buffer.h"
-#include "bridge/pinned_array.h"
 #include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
+#include "session/handle_out.h"
 
 namespace {
 
@@ -35,8 +35,8 @@ SEC_CONNECTION_INFO* newSecConnectionInfo(JNIEnv* env, jobject connInfo) {
   if (secure == nullptr || !getBoolFromJobject(env, secure, "secureMode")) return nullptr;
 
   auto* record = new SEC_CONNECTION_INFO();
-  record->secureMode = getCBoolFromJobject(env, secure, "secureMode");
-  record->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
+  record->secureMode = toCBool(getBoolFromJobject(env, secure, "secureMode"));
+  record->validatePeerCert = toCBool(getBoolFromJobject(env, secure, "validatePeerCert"));
   copySizedBuffer(env, secure, "sizeCertBuff", "clientCertBuff", record->sizeCertBuff, record->clientCertBuff);
   copySizedBuffer(env, secure, "sizeKeyBuff", "clientKeyBuff", record->sizeKeyBuff, record->clientKeyBuff);
   copySizedBuffer(env, secure, "sizePhraseBuff", "phraseBuff", record->sizePhraseBuff, record->phraseBuff);
@@ -62,17 +62,14 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Connect(JNIEnv
                                                                          jstring hostName, jint firstParameter,
                                                                          jint secondParameter, jobject connInfo) {
   const NameBuffer host(env, hostName);
-  orla::PinnedArray<jlongArray> handle(env, handleOut);
+  orla::HandleOut handle(env, handleOut);
 
   CONNECTION_INFO info = {};
   info.version = getEnumFieldFromJobject(env, connInfo, "version", kRfidVersionSignature);
   info.secConnInfo = newSecConnectionInfo(env, connInfo);
 
-  READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_ConnectW(&slot, host.text, static_cast<uint32_t>(firstParameter),
-                                           static_cast<uint32_t>(secondParameter), &info);
-  if (status == 0) handle[0] = slot;
-  handle.release();  // mode 0, whatever the status
+  const RFID_STATUS status = handle.deliver(RFID_ConnectW(
+      handle.slot(), host.text, static_cast<uint32_t>(firstParameter), static_cast<uint32_t>(secondParameter), &info));
   deleteSecConnectionInfo(info.secConnInfo);
   return status;
 }

@@ -11,7 +11,6 @@
 #include <cwchar>
 
 #include "bridge/c_bool.h"
-#include "bridge/enum_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
@@ -143,14 +142,16 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1RegisterEventN
                                                                                            jint readerHandle,
                                                                                            jobject eventType,
                                                                                            jint eventHandle) {
-  return RFID_RegisterEventNotification(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, eventType),
+  return RFID_RegisterEventNotification(static_cast<READER_HANDLE>(readerHandle),
+                                        getEnumValueFromJobject(env, eventType, 0),
                                         static_cast<EVENT_HANDLE>(eventHandle));
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1DeregisterEventNotification(JNIEnv* env, jclass,
                                                                                              jint readerHandle,
                                                                                              jobject eventType) {
-  return RFID_DeregisterEventNotification(static_cast<READER_HANDLE>(readerHandle), ordinalOf(env, eventType));
+  return RFID_DeregisterEventNotification(static_cast<READER_HANDLE>(readerHandle),
+                                          getEnumValueFromJobject(env, eventType, 0));
 }
 
 // Event types above 14, and those that carry no data for Java, return 0
@@ -158,7 +159,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1DeregisterEven
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1GetEventData(JNIEnv* env, jclass, jint readerHandle,
                                                                               jobject eventType, jobject eventData) {
   wchar_t alarmCode[kAlarmCodeChars] = {};
-  const uint32_t type = ordinalOf(env, eventType);
+  const uint32_t type = getEnumValueFromJobject(env, eventType, 0);
   if (type > kTemperatureAlarmEvent) return 0;
 
   const auto reader = static_cast<READER_HANDLE>(readerHandle);

@@ -7,12 +7,12 @@
 #include "bridge/c_bool.h"
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
-#include "bridge/pinned_array.h"
 #include "bridge/string_field.h"
 #include "bridge/unsigned_fields.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
+#include "session/handle_out.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
                                                                                          jint readerHandle,
                                                                                          jobject config) {
   LLRP_CONNECTION_CONFIG record = {};
-  record.isClient = getCBoolFromJobject(env, config, "isClient");
+  record.isClient = toCBool(getBoolFromJobject(env, config, "isClient"));
   jstring host = getStringFromJobject(env, config, "hostServerIP");
   if (host != nullptr) {
     // Fetched once and deliberately never released, as login does.
@@ -62,8 +62,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetLLRPConnect
   if (getBoolFromJobject(env, secure, "secureMode")) {
     // Deliberately never freed: the secure record outlives this call.
     record.pSecureModeConfig = new SEC_LLRP_CONFIG();
-    record.pSecureModeConfig->secureMode = getCBoolFromJobject(env, secure, "secureMode");
-    record.pSecureModeConfig->validatePeerCert = getCBoolFromJobject(env, secure, "validatePeerCert");
+    record.pSecureModeConfig->secureMode = toCBool(getBoolFromJobject(env, secure, "secureMode"));
+    record.pSecureModeConfig->validatePeerCert = toCBool(getBoolFromJobject(env, secure, "validatePeerCert"));
   }
   return RFID_SetLLRPConnectionConfigW(static_cast<READER_HANDLE>(readerHandle), &record);
 }
@@ -86,7 +86,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1AcceptConnecti
                                                                                   jlongArray handleOut,
                                                                                   jlong passThrough,
                                                                                   jobject acceptInfo) {
-  orla::PinnedArray<jlongArray> handle(env, handleOut);
+  orla::HandleOut handle(env, handleOut);
 
   ACCEPT_CONNECTION_INFO record;
   // Read and dropped on purpose: the time-out slot of the record stays as the stack left it.
@@ -94,11 +94,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1AcceptConnecti
   record.rfidVersion = getEnumFieldFromJobject(env, acceptInfo, "rfidVersion", kRfidVersionSignature);
 
   ACCEPT_CONNECTION_SCRATCH scratch = {};
-  READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_AcceptConnection(&slot, passThrough, &record, &scratch);
-  if (status == 0) handle[0] = slot;
-  handle.release();  // mode 0, whatever the status
-  return status;
+  return handle.deliver(RFID_AcceptConnection(handle.slot(), passThrough, &record, &scratch));
 }
 
 }  // extern "C"

@@ -8,11 +8,11 @@
 #include "bridge/c_bool.h"
 #include "bridge/conversions.h"
 #include "bridge/enum_field.h"
-#include "bridge/pinned_array.h"
 #include "bridge/string_field.h"
 #include "com_kovra_rfid_orla_ORLANatives.h"
 #include "jni_fields.h"
 #include "reader_api.h"
+#include "session/handle_out.h"
 
 namespace {
 
@@ -27,7 +27,7 @@ extern "C" {
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* env, jclass, jlongArray handleOut,
                                                                        jobject loginInfo, jobject readerType,
                                                                        jboolean flag) {
-  orla::PinnedArray<jlongArray> handle(env, handleOut);
+  orla::HandleOut handle(env, handleOut);
 
   std::unique_ptr<LOGIN_INFO> record;
   if (loginInfo != nullptr) {
@@ -41,17 +41,15 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Login(JNIEnv* 
       static_cast<void>(env->GetStringUTFChars(value, nullptr));
       JavaToWSZ(env, value, field.text);
     }
-    record->forceLogin = getCBoolFromJobject(env, loginInfo, "forceLogin");
+    record->forceLogin = toCBool(getBoolFromJobject(env, loginInfo, "forceLogin"));
     record->version = getEnumFieldFromJobject(env, loginInfo, "rfidVersion", kRfidVersionSignature);
   }
-  const uint32_t kind = ordinalOf(env, readerType);
+  const uint32_t kind = getEnumValueFromJobject(env, readerType, 0);
 
-  READER_HANDLE slot = 0;
-  const RFID_STATUS status = RFID_LoginW(&slot, record.get(), kind, toCBool(flag), nullptr);
-  if (status == 0) handle[0] = slot;
+  const RFID_STATUS status = RFID_LoginW(handle.slot(), record.get(), kind, toCBool(flag), nullptr);
+  // Login frees its record before the handle array is released.
   record.reset();
-  handle.release();  // mode 0, whatever the status
-  return status;
+  return handle.deliver(status);
 }
 
 JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1Logout(JNIEnv*, jclass, jint readerHandle) {

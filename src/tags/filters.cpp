@@ -95,7 +95,7 @@ void GetAntennaInfoFromJobject(JNIEnv* env, jobject antennaInfo, ANTENNA_INFO* r
   }
   for (uint32_t i = 0; i < record->length; ++i) {
     jobject qualifier = env->GetObjectArrayElement(qualifiers, static_cast<jsize>(i));
-    record->antennaOpList[i] = ordinalOf(env, qualifier);
+    record->antennaOpList[i] = getEnumValueFromJobject(env, qualifier, 0);
   }
 }
 

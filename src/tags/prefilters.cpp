@@ -19,14 +19,14 @@ namespace {
 void fillFilterAction(JNIEnv* env, jobject params, PRE_FILTER* record) {
   jobject unaware =
       getJobjectFromJobject(env, params, "stateUnawareAction", "Lcom/kovra/rfid/orla/STATE_UNAWARE_ACTION;");
-  if (unaware != nullptr) record->stateUnawareAction = ordinalOf(env, unaware);
+  if (unaware != nullptr) record->stateUnawareAction = getEnumValueFromJobject(env, unaware, 0);
   jobject aware =
       getJobjectFromJobject(env, params, "stateAwareParams", "Lcom/kovra/rfid/orla/STATE_AWARE_ACTION_PARAMS;");
   if (aware == nullptr) return;
   jobject target = getJobjectFromJobject(env, aware, "target", "Lcom/kovra/rfid/orla/TARGET;");
-  if (target != nullptr) record->target = ordinalOf(env, target);
+  if (target != nullptr) record->target = getEnumValueFromJobject(env, target, 0);
   jobject action = getJobjectFromJobject(env, aware, "stateAwareAction", "Lcom/kovra/rfid/orla/STATE_AWARE_ACTION;");
-  if (action != nullptr) record->stateAwareAction = ordinalOf(env, action);
+  if (action != nullptr) record->stateAwareAction = getEnumValueFromJobject(env, action, 0);
 }
 
 // Fills the record; the pattern bytes (ceil(bit count / 8) of them, even

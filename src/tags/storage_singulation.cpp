@@ -43,8 +43,8 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetTagStorageS
   record.maxMemoryBankByteCount = getUint32FromJobject(env, settings, "maxMemoryBankByteCount");
   record.maxTagIDByteCount = getUint32FromJobject(env, settings, "maxTagIDByteCount");
   record.tagFields = getUint16FromJobject(env, settings, "tagFields");
-  record.enableAccessReports = getCBoolFromJobject(env, settings, "enableAccessReports");
-  record.discardTagsOnInventoryStop = getCBoolFromJobject(env, settings, "discardTagsOnInventoryStop");
+  record.enableAccessReports = toCBool(getBoolFromJobject(env, settings, "enableAccessReports"));
+  record.discardTagsOnInventoryStop = toCBool(getBoolFromJobject(env, settings, "discardTagsOnInventoryStop"));
   return RFID_SetTagStorageSettings(static_cast<READER_HANDLE>(readerHandle), &record);
 }
 
@@ -80,7 +80,7 @@ JNIEXPORT jint JNICALL Java_com_kovra_rfid_orla_ORLANatives_RFID_1SetSingulation
   record.session = getEnumFieldFromJobject(env, control, "session", "Lcom/kovra/rfid/orla/SESSION;");
   jobject action = getJobjectFromJobject(env, control, "stateAwareSingulationAction",
                                          kStateAwareSingulationActionSignature);
-  record.perform = getCBoolFromJobject(env, action, "perform");
+  record.perform = toCBool(getBoolFromJobject(env, action, "perform"));
   record.inventoryState = getEnumFieldFromJobject(env, action, "inventoryState", "Lcom/kovra/rfid/orla/INVENTORY_STATE;");
   record.slFlag = getEnumFieldFromJobject(env, action, "slFlag", "Lcom/kovra/rfid/orla/SL_FLAG;");
   return RFID_SetSingulationControl(static_cast<READER_HANDLE>(readerHandle), static_cast<uint16_t>(antennaID),

@@ -37,7 +37,7 @@ enum class StartTime { Preset, OwnRecord };
 
 void fillGpi(JNIEnv* env, jobject gpi, GPI_TRIGGER* record) {
   record->portNumber = getUint16FromJobject(env, gpi, "portNumber");
-  record->eventInfo = getCBoolFromJobject(env, gpi, "eventInfo");
+  record->eventInfo = toCBool(getBoolFromJobject(env, gpi, "eventInfo"));
   record->timeoutMilliseconds = getUint32FromJobject(env, gpi, "timeoutMilliseconds");
 }
 
@@ -98,7 +98,7 @@ void fillStartValue(JNIEnv* env, jobject value, START_TRIGGER* record, StartTime
 // read by that type.
 void fillStartTrigger(JNIEnv* env, jobject trigger, START_TRIGGER* record, StartTime startTime) {
   jobject type = getJobjectFromJobject(env, trigger, "type", "Lcom/kovra/rfid/orla/START_TRIGGER_TYPE;");
-  if (type != nullptr) record->type = ordinalOf(env, type);
+  if (type != nullptr) record->type = getEnumValueFromJobject(env, type, 0);
   jobject value = getJobjectFromJobject(env, trigger, "value", "Lcom/kovra/rfid/orla/START_TRIGGER_VALUE;");
   if (value != nullptr && record->type <= kStartDistance) fillStartValue(env, value, record, startTime);
 }
@@ -139,7 +139,7 @@ void fillStopValue(JNIEnv* env, jobject value, STOP_TRIGGER* record) {
 
 void fillStopTrigger(JNIEnv* env, jobject trigger, STOP_TRIGGER* record) {
   jobject type = getJobjectFromJobject(env, trigger, "type", "Lcom/kovra/rfid/orla/STOP_TRIGGER_TYPE;");
-  if (type != nullptr) record->type = ordinalOf(env, type);
+  if (type != nullptr) record->type = getEnumValueFromJobject(env, type, 0);
   jobject value = getJobjectFromJobject(env, trigger, "value", "Lcom/kovra/rfid/orla/STOP_TRIGGER_VALUE;");
   if (value != nullptr && record->type <= kStopTimelapse) fillStopValue(env, value, record);
 }
@@ -150,7 +150,7 @@ void fillStopTrigger(JNIEnv* env, jobject trigger, STOP_TRIGGER* record) {
 // "tagObservation" object itself is (a null one is skipped all the same).
 void fillExtraStopTrigger(JNIEnv* env, jobject trigger, STOP_TRIGGER* record, jobject& lastNumAttempts) {
   jobject type = getJobjectFromJobject(env, trigger, "type", "Lcom/kovra/rfid/orla/STOP_TRIGGER_TYPE;");
-  if (type != nullptr) record->type = ordinalOf(env, type);
+  if (type != nullptr) record->type = getEnumValueFromJobject(env, type, 0);
   jobject value = getJobjectFromJobject(env, trigger, "value", "Lcom/kovra/rfid/orla/STOP_TRIGGER_VALUE;");
   if (value == nullptr || record->type > kStopTimelapse) return;
   if (record->type == kStopNumAttempts) {
@@ -172,7 +172,7 @@ void fillTagEvent(JNIEnv* env, jobject events, const char* eventField, const cha
                   const char* timeoutField, uint32_t* event, uint16_t* timeout) {
   jobject eventObject = getJobjectFromJobject(env, events, eventField, eventSignature);
   if (eventObject == nullptr) return;
-  *event = ordinalOf(env, eventObject);
+  *event = getEnumValueFromJobject(env, eventObject, 0);
   *timeout = getUint16FromJobject(env, events, timeoutField);
 }
 

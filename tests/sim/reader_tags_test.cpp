@@ -81,7 +81,11 @@ TEST(TagPopulationTest, TagLineReadsEveryKey) {
   EXPECT_EQ(t.crc, 0xA8C7);
   EXPECT_TRUE(t.eas);
   EXPECT_EQ(t.rssiByAntenna, (std::map<uint16_t, int8_t>{{2, -40}, {4, -60}}));
-  EXPECT_EQ(t.bank(sim::kBankEpc), hex("A8C712003000AABB"));
+  sim::Bytes epcBank = hex("A8C712003000AABB");
+  epcBank.resize(2 * 0x21);
+  epcBank.push_back(0x00);
+  epcBank.push_back(0x01);
+  EXPECT_EQ(t.bank(sim::kBankEpc), epcBank) << "CRC, PC, EPC, the XPC word at word 0x21";
   EXPECT_EQ(t.bank(sim::kBankReserved), hex("8765432112345678"));
   const sim::SimTag& plain = parsed.tags[1];
   EXPECT_EQ(plain.rssiByAntenna, (std::map<uint16_t, int8_t>{{1, -50}})) << "defaults";

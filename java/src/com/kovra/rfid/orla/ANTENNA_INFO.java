@@ -6,6 +6,7 @@ package com.kovra.rfid.orla;
 public class ANTENNA_INFO {
     /** Number of entries used in antennaList (and antennaOpList). */
     public int length;
+    /** Antenna IDs; must hold at least length entries (never null). */
     public short[] antennaList = new short[0];
     /** Optional; null when no qualifiers are given. */
     public OPERATION_QUALIFIER[] antennaOpList;

@@ -3,6 +3,7 @@ package com.kovra.rfid.orla;
 /** Parameters of a Gen2v2 crypto command (class name chosen by this SDK); three IChallenge words are sent. */
 public class CRYPTO_PARAMS {
     public byte keyID;
+    /** Interrogator challenge: three 32-bit words; must hold at least 3 elements. */
     public int[] IChallenge = new int[3];
     public boolean customData;
     public byte profile;

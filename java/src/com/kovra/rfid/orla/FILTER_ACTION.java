@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** Kind of action of a pre-filter; ordinal = C value. */
 public enum FILTER_ACTION {
-    FILTER_ACTION_DEFAULT, // 0
-    FILTER_ACTION_STATE_AWARE, // 1
-    FILTER_ACTION_STATE_UNAWARE; // 2
+    /** Reader value 0. */
+    FILTER_ACTION_DEFAULT,
+    /** Reader value 1. */
+    FILTER_ACTION_STATE_AWARE,
+    /** Reader value 2. */
+    FILTER_ACTION_STATE_UNAWARE;
 }

@@ -2,8 +2,12 @@ package com.kovra.rfid.orla;
 
 /** Colours of the user LED; ordinal = C value. */
 public enum LED_COLOR {
-    LED_OFF, // 0
-    LED_RED, // 1
-    LED_GREEN, // 2
-    LED_YELLOW; // 3
+    /** Reader value 0. */
+    LED_OFF,
+    /** Reader value 1. */
+    LED_RED,
+    /** Reader value 2. */
+    LED_GREEN,
+    /** Reader value 3. */
+    LED_YELLOW;
 }

@@ -4,5 +4,6 @@ package com.kovra.rfid.orla;
 public class NXP_CHANGE_CONFIG_PARAMS {
     /** Only the low 32 bits are sent. */
     public long accessPassword;
+    /** The 16 configuration bits sent to the tag. */
     public short ChangeConfigWord;
 }

@@ -4,5 +4,6 @@ package com.kovra.rfid.orla;
 public class NXP_SET_EAS_PARAMS {
     /** Only the low 32 bits are sent. */
     public long accessPassword;
+    /** true sets the tag's EAS bit, false clears it. */
     public boolean EASState;
 }

@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** What an antenna of an antenna selection is used for; ordinal = C value. */
 public enum OPERATION_QUALIFIER {
-    C1G2_OPERATION, // 0
-    NXP_EAS_SCAN, // 1
-    LOCATE_TAG; // 2
+    /** Reader value 0. */
+    C1G2_OPERATION,
+    /** Reader value 1. */
+    NXP_EAS_SCAN,
+    /** Reader value 2. */
+    LOCATE_TAG;
 }

@@ -20,6 +20,10 @@ public class READER_CAPS {
     public short numGPIs;
     public short numGPOs;
     public boolean utcClockSupported;
+    /**
+     * Receive sensitivities, which ANTENNA_RF_CONFIG.receiveSensitivityIndex indexes (the field keeps the reader's
+     * spelling).
+     */
     public RECEIVE_SENSITIVITY_TABLE receiveSensitivtyTable;
     public boolean blockEraseSupported;
     public boolean blockWriteSupported;
@@ -28,19 +32,27 @@ public class READER_CAPS {
     public boolean blockPermalockSupported;
     public boolean writeUMISupported;
     public boolean radioPowerControlSupported;
+    /** Most operations an access sequence holds. */
     public short maxNumOperationsInAccessSequence;
+    /** Most pre-filters the reader keeps. */
     public short maxNumPreFilters;
+    /** RF mode tables, which ANTENNA_RF_CONFIG.rfModeTableIndex indexes. */
     public RF_MODES rfModes;
     public short countryCode;
+    /** Regulatory standard, as the reader defines it. */
     public int enumCommunicationStandard;
+    /** Transmit power levels, which ANTENNA_RF_CONFIG.transmitPowerIndex indexes. */
     public TRANSMIT_POWER_LEVEL_TABLE transmitPowerLevelTable;
     public boolean hoppingEnabled;
+    /** Frequency-hop tables, used when hoppingEnabled. */
     public FREQ_HOP_INFO freqHopInfo;
+    /** Fixed frequencies, used when hopping is off. */
     public FIXED_FREQ_INFO fixedFreqInfo;
     public boolean tagEventReportingSupported;
     public boolean rssiFilterSupported;
     public boolean NXPCommandsSupported;
     public boolean tagLocationingSupported;
+    /** Duty cycles, which RFID_SetDutyCycle indexes; left as it was when the reader reports none. */
     public DUTY_CYCLE_TABLE dutyCycleTable;
     public boolean tagListFilterSupported;
     public boolean periodicTagReportsSupported;

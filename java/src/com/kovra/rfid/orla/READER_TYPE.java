@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** Kind of reader a login is meant for (enum name chosen by this SDK); ordinal = C value. */
 public enum READER_TYPE {
-    FIXED_READER, // 0
-    HANDHELD_READER, // 1
-    SLED_READER; // 2
+    /** Reader value 0. */
+    FIXED_READER,
+    /** Reader value 1. */
+    HANDHELD_READER,
+    /** Reader value 2. */
+    SLED_READER;
 }

@@ -2,20 +2,36 @@ package com.kovra.rfid.orla;
 
 /** Reader event types; ordinal = C value. */
 public enum RFID_EVENT_TYPE {
-    GPI_EVENT, // 0
-    TAG_READ_EVENT, // 1
-    BUFFER_FULL_WARNING_EVENT, // 2
-    ANTENNA_EVENT, // 3
-    INVENTORY_START_EVENT, // 4
-    INVENTORY_STOP_EVENT, // 5
-    ACCESS_START_EVENT, // 6
-    ACCESS_STOP_EVENT, // 7
-    DISCONNECTION_EVENT, // 8
-    BUFFER_FULL_EVENT, // 9
-    NXP_EAS_ALARM_EVENT, // 10
-    READER_EXCEPTION_EVENT, // 11
-    HANDHELD_TRIGGER_EVENT, // 12
-    DEBUG_INFO_EVENT, // 13
-    TEMPERATURE_ALARM_EVENT, // 14
-    GPS_DATA_EVENT; // 15
+    /** Reader value 0. */
+    GPI_EVENT,
+    /** Reader value 1. */
+    TAG_READ_EVENT,
+    /** Reader value 2. */
+    BUFFER_FULL_WARNING_EVENT,
+    /** Reader value 3. */
+    ANTENNA_EVENT,
+    /** Reader value 4. */
+    INVENTORY_START_EVENT,
+    /** Reader value 5. */
+    INVENTORY_STOP_EVENT,
+    /** Reader value 6. */
+    ACCESS_START_EVENT,
+    /** Reader value 7. */
+    ACCESS_STOP_EVENT,
+    /** Reader value 8. */
+    DISCONNECTION_EVENT,
+    /** Reader value 9. */
+    BUFFER_FULL_EVENT,
+    /** Reader value 10. */
+    NXP_EAS_ALARM_EVENT,
+    /** Reader value 11. */
+    READER_EXCEPTION_EVENT,
+    /** Reader value 12. */
+    HANDHELD_TRIGGER_EVENT,
+    /** Reader value 13. */
+    DEBUG_INFO_EVENT,
+    /** Reader value 14. */
+    TEMPERATURE_ALARM_EVENT,
+    /** Reader value 15. */
+    GPS_DATA_EVENT;
 }

@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** Gen2 SL flag state to singulate; ordinal = C value. */
 public enum SL_FLAG {
-    SL_FLAG_ASSERTED, // 0
-    SL_FLAG_DEASSERTED, // 1
-    SL_ALL; // 2
+    /** Reader value 0. */
+    SL_FLAG_ASSERTED,
+    /** Reader value 1. */
+    SL_FLAG_DEASSERTED,
+    /** Reader value 2. */
+    SL_ALL;
 }

@@ -2,9 +2,11 @@ package com.kovra.rfid.orla;
 
 /** System information of the reader (class name chosen by this SDK). */
 public class SYSTEM_INFO {
+    /** Must not be null. */
     public STRUCT_INFO structInfo = new STRUCT_INFO();
     public String radioFirmwareVersion;
     public String fPGAVersion;
+    /** Time since the reader started, as text. */
     public String upTime;
     public String readerName;
     public String readerLocation;
@@ -14,5 +16,6 @@ public class SYSTEM_INFO {
     public int ramTotal;
     public int cpuUsageForUserProcesses;
     public int cpuUsageForSystemProcesses;
+    /** Power source, as the reader defines it. */
     public short powersourcetypeEnum;
 }

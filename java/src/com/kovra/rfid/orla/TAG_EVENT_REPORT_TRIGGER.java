@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** How a tag event is reported; ordinal = C value. */
 public enum TAG_EVENT_REPORT_TRIGGER {
-    NEVER, // 0
-    IMMEDIATE, // 1
-    MODERATED; // 2
+    /** Reader value 0. */
+    NEVER,
+    /** Reader value 1. */
+    IMMEDIATE,
+    /** Reader value 2. */
+    MODERATED;
 }

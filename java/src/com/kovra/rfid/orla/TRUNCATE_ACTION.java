@@ -2,7 +2,10 @@ package com.kovra.rfid.orla;
 
 /** Gen2 Select truncation; ordinal = C value. */
 public enum TRUNCATE_ACTION {
-    TRUNCATE_ACTION_UNSPECIFIED, // 0
-    TRUNCATE_ACTION_DO_NOT_TRUNCATE, // 1
-    TRUNCATE_ACTION_TRUNCATE; // 2
+    /** Reader value 0. */
+    TRUNCATE_ACTION_UNSPECIFIED,
+    /** Reader value 1. */
+    TRUNCATE_ACTION_DO_NOT_TRUNCATE,
+    /** Reader value 2. */
+    TRUNCATE_ACTION_TRUNCATE;
 }

@@ -2,6 +2,8 @@ package com.kovra.rfid.orla;
 
 /** Mode of the reader's USB device port; ordinal = C value. */
 public enum USB_OPERATION_MODE {
-    USB_OPERATION_MODE_NETWORK, // 0
-    USB_OPERATION_MODE_SERIAL; // 1
+    /** Reader value 0. */
+    USB_OPERATION_MODE_NETWORK,
+    /** Reader value 1. */
+    USB_OPERATION_MODE_SERIAL;
 }

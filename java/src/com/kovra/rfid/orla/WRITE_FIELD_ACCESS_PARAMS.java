@@ -6,6 +6,8 @@ package com.kovra.rfid.orla;
 public class WRITE_FIELD_ACCESS_PARAMS {
     /** Only the low 32 bits are sent. */
     public long accessPassword;
+    /** The new value; must hold at least writeDataLength bytes. */
     public byte[] writeData = new byte[0];
+    /** Length of the new value in bytes. */
     public short writeDataLength;
 }

@@ -7,15 +7,17 @@ import static org.junit.jupiter.api.Assertions.assertNull;
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
 import com.kovra.rfid.orla.sim.SimControl;
-import com.kovra.rfid.orla.sim.SimReader;
+import java.util.LinkedHashMap;
+import java.util.Map;
 import java.util.function.IntBinaryOperator;
 import org.junit.jupiter.api.Test;
 
 /**
- * Single Gen2 operations on one tag: the tag ID bytes, the parameter
- * records, the access filter and antenna records as the reader received
- * them (read at the reader's offsets from the simulator's copies), the
- * argument order and widths, and the result tag.
+ * Single Gen2 operations on one tag: the parameter records and the access
+ * filter as the reader received them (read at the reader's offsets from the
+ * simulator's copies), the argument order and widths; and, for every tag
+ * operation of the three families, the objects or NULLs passed on and the
+ * result tag.
  */
 class AccessOperationTest extends TagAccessTest {
 
@@ -28,22 +30,22 @@ class AccessOperationTest extends TagAccessTest {
         return p;
     }
 
+    /** The handle goes through the access frame of every operation: one check of its sign stands for all. */
     @Test
     void readSendsItsArgumentsInOrderAndWidth() {
-        assertEquals(1, ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, readParams(), null, twoAntennas(), null, null,
-                null, true), "the reader's status as it is");
+        assertEquals(1, ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, readParams(), null, null, null, null, null, true),
+                "the reader's status as it is");
         Call call = Call.last("RFID_Read");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"), "upper and lower case digits alike");
-        byte[] record = call.blob("params");
-        assertArrayEquals(new long[] {3, 0x8001, 0xFFFF, 0x8765_4321L}, fields(record, 0, 4, 4, 2, 6, 2, 8, 4));
-        assertTwoAntennas(call);
+        assertEquals(NO_READER_RAW, call.arg(0), "handle sign-extended");
+        assertArrayEquals(new long[] {3, 0x8001, 0xFFFF, 0x8765_4321L},
+                fields(call.blob("params"), 0, 4, 4, 2, 6, 2, 8, 4));
 
         ORLANatives.RFID_Read(NO_READER, "", 0, null, null, null, null, null, null, false);
         assertArrayEquals(new byte[0], Call.last("RFID_Read").blob("tagID"),
                 "an empty tag ID is an empty buffer, not NULL");
     }
 
+    /** Every single tag operation of the three families; a parameter object is optional but where it is not. */
     @Test
     void eachOperationPassesItsObjectsOrNulls() {
         assertObjectsOrNulls("RFID_Read", new READ_ACCESS_PARAMS(), (h, p, f, a, t) ->
@@ -69,19 +71,56 @@ class AccessOperationTest extends TagAccessTest {
                 ORLANatives.RFID_WriteKillPassword(h, TAG_ID, 6, (WRITE_FIELD_ACCESS_PARAMS) p, a));
         assertObjectsOrNulls("RFID_WriteTagID", new WRITE_FIELD_ACCESS_PARAMS(), (h, p, f, a, t) ->
                 ORLANatives.RFID_WriteTagID(h, TAG_ID, 6, (WRITE_FIELD_ACCESS_PARAMS) p, a));
+        assertObjectsOrNulls("RFID_NXPReadProtect", new NXP_READ_PROTECT_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPReadProtect(h, TAG_ID, 6, (NXP_READ_PROTECT_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPSetEAS", new NXP_SET_EAS_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPSetEAS(h, TAG_ID, 6, (NXP_SET_EAS_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_NXPChangeConfig", new NXP_CHANGE_CONFIG_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, (NXP_CHANGE_CONFIG_PARAMS) p, f, a, t, null, null,
+                        true));
+        assertObjectsOrNulls("RFID_ImpinjQTWrite", new IMPINJ_QT_WRITE_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTWrite(h, TAG_ID, 6, (IMPINJ_QT_WRITE_PARAMS) p, f, a));
+        assertObjectsOrNulls("RFID_ImpinjQTRead", new IMPINJ_QT_READ_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, (IMPINJ_QT_READ_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Authenticate", new AUTHENTICATE_PARAMS(), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, (AUTHENTICATE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Untraceable", new UNTRACEABLE_PARAMS(), false, (h, p, f, a, t) ->
+                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, (UNTRACEABLE_PARAMS) p, f, a, t, null, null, true));
+        assertObjectsOrNulls("RFID_Crypto", new CRYPTO_PARAMS(), (h, p, f, a, t) ->
+                ORLANatives.RFID_Crypto(h, TAG_ID, 6, (CRYPTO_PARAMS) p, f, a, t, null, null, true));
     }
 
+    /**
+     * Every operation that returns a tag: written with the UTC form asked for on success only, always given
+     * back. What the result record holds is the tag writer's to convert.
+     */
     @Test
-    void readResultTagReachesJavaOnSuccessOnlyAndIsAlwaysGivenBack() {
-        byte[] result = resultTag(0, new byte[16]);
-        TAG_DATA tag = checkResultTag("RFID_Read", result, (handle, t, utc) -> ORLANatives.RFID_Read(handle, TAG_ID,
-                6, readParams(), null, null, t, null, null, utc));
-        assertEquals("30001234", tag.tagID);
-        assertEquals("AB0CDE", tag.memoryBankData);
+    void eachResultTagReachesJavaOnSuccessOnlyAndIsAlwaysGivenBack() {
+        Map<String, ResultTagOperation> operations = new LinkedHashMap<>();
+        operations.put("RFID_Read", (h, t, utc) ->
+                ORLANatives.RFID_Read(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_BlockPermalock", (h, t, utc) ->
+                ORLANatives.RFID_BlockPermalock(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_NXPChangeConfig", (h, t, utc) ->
+                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_ImpinjQTRead", (h, t, utc) ->
+                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        operations.put("RFID_Authenticate", (h, t, utc) ->
+                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, new AUTHENTICATE_PARAMS(), null, null, t, null, null, utc));
+        operations.put("RFID_Untraceable", (h, t, utc) ->
+                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, new UNTRACEABLE_PARAMS(), null, null, t, null, null, utc));
+        operations.put("RFID_Crypto", (h, t, utc) ->
+                ORLANatives.RFID_Crypto(h, TAG_ID, 6, null, null, null, t, null, null, utc));
+        for (Map.Entry<String, ResultTagOperation> operation : operations.entrySet()) {
+            SimControl.reset();
+            TAG_DATA tag = checkResultTag(operation.getKey(), resultTag(0, new byte[16]), operation.getValue());
+            assertEquals("30001234", tag.tagID, operation.getKey());
+        }
 
         TAG_DATA upTime = markedTag();
-        int handle = connect();
-        assertEquals(0, ORLANatives.RFID_Read(handle, TAG_ID, 6, null, null, null, upTime, null, null, false));
+        byte[] result = resultTag(0, new byte[16]);
+        SimControl.setOutput("RFID_Read", result);
+        assertEquals(0, ORLANatives.RFID_Read(connect(), TAG_ID, 6, null, null, null, upTime, null, null, false));
         assertEquals(Bytes.s64(result, 40), upTime.seenTime.upTime.firstSeenTimeStamp, "up-time form asked for");
         assertEquals(77, upTime.seenTime.utcTime.firstSeenTimeStamp.Year);
     }
@@ -98,58 +137,31 @@ class AccessOperationTest extends TagAccessTest {
         assertEquals(0, SimControl.count("RFID_DeallocateTag"));
     }
 
-    @Test
-    void readOfASimulatedTagReturnsTheBytesOfItsBank() {
-        String epc = "E2000017220100050000AAAA";
-        assertNull(SimReader.loadTags("EPC=" + epc + " USER=0011223344556677 ANT=2 RSSI=-61"));
-        int handle = connect();
-        READ_ACCESS_PARAMS p = new READ_ACCESS_PARAMS();
-        p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
-        p.byteOffset = 2;
-        TAG_DATA tag = markedTag();
-        int[] counts = {4, 0, 7};
-        int[] statuses = {0, 0, 2};
-        String[] banks = {"22334455", "223344556677", "223344556677"};
-        for (int i = 0; i < 3; i++) {
-            p.byteCount = (short) counts[i];
-            assertEquals(statuses[i], ORLANatives.RFID_Read(handle, epc, 12, p, null, null, tag, null, null, true));
-            assertEquals(banks[i], tag.memoryBankData, "a count of 0 reads to the end, 7 is beyond the bank");
-        }
-        assertEquals(epc, tag.tagID);
-        assertArrayEquals(new int[] {0, 3, 2, -61}, new int[] {tag.enumOPCode, tag.enumMemoryBank, tag.antennaID,
-            tag.peakRSSI});
-        assertEquals(6, ORLANatives.RFID_Read(handle, "E2000017220100050000AAAB", 12, p, null, null, tag, null, null,
-                true), "no such tag in the field");
-        assertEquals(0, SimReader.liveTagRecords(handle));
-    }
-
-    /** The access filter's own fields; its patterns and RSSI range share the post filter's conversion. */
+    /**
+     * The access filter's own record: its fields, and each part hung where it belongs. How patterns and RSSI
+     * ranges are converted is the post filter's conversion, checked with it.
+     */
     @Test
     void accessFilterRecordsSitAtTheirOffsets() {
         ACCESS_FILTER filter = new ACCESS_FILTER();
         filter.structInfo.memoryAllocated = -2;
         filter.structInfo.memoryUsed = 0x0102_0304;
         filter.tagPatternA = new TAG_PATTERN();
-        filter.tagPatternA.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
-        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2, (byte) 0x80, 0x11};
-        filter.tagPatternA.tagPatternBitCount = 12;
+        filter.tagPatternA.tagPattern = new byte[] {(byte) 0xE2};
+        filter.tagPatternA.tagPatternBitCount = 8;
         filter.tagPatternB = new TAG_PATTERN();
         filter.tagPatternB.tagPattern = new byte[] {0x30};
         filter.tagPatternB.tagPatternBitCount = 8;
         filter.matchPattern = FILTER_MATCH_PATTERN.A_AND_NOTB;
         filter.rssiRangeFilter = new RSSI_RANGE_FILTER();
-        filter.rssiRangeFilter.peakRSSILowerLimit = -70;
-        filter.rssiRangeFilter.peakRSSIUpperLimit = 0x17F;
         filter.rssiRangeFilter.matchRange = MATCH_RANGE.LOWER_THAN_UPPER_LIMIT;
 
         ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, filter, null, null, null, null, true);
         Call call = Call.last("RFID_Read");
         assertArrayEquals(new long[] {0xFFFF_FFFEL, 0x0102_0304, 3}, fields(call.blob("accessFilter"), 0, 4, 4, 4, 24, 4));
-        assertArrayEquals(new long[] {2, 12}, fields(call.blob("accessFilter.tagPatternA"), 0, 4, 16, 2));
-        assertArrayEquals(new byte[] {(byte) 0xE2, (byte) 0x80}, call.blob("accessFilter.tagPatternA.tagPattern"));
+        assertArrayEquals(new byte[] {(byte) 0xE2}, call.blob("accessFilter.tagPatternA.tagPattern"));
         assertArrayEquals(new byte[] {0x30}, call.blob("accessFilter.tagPatternB.tagPattern"));
-        assertArrayEquals(new long[] {0xBA, 0x7F, 3}, fields(call.blob("accessFilter.rssiRangeFilter"), 0, 1, 1, 1, 4, 4),
-                "low byte of each limit, match range");
+        assertEquals(3, Bytes.u32(call.blob("accessFilter.rssiRangeFilter"), 4));
 
         ORLANatives.RFID_Read(NO_READER, TAG_ID, 6, null, new ACCESS_FILTER(), null, null, null, null, true);
         assertArrayEquals(new long[] {0, 0, 0, 0}, fields(Call.last("RFID_Read").blob("accessFilter"),
@@ -171,19 +183,16 @@ class AccessOperationTest extends TagAccessTest {
         for (String fn : new String[] {"RFID_Write", "RFID_BlockWrite"}) {
             WRITE_ACCESS_PARAMS p = writeParams(new byte[] {1, 2, 3, 4, 5}, 3);
             int status = fn.equals("RFID_Write")
-                    ? ORLANatives.RFID_Write(NO_READER, TAG_ID, 6, p, null, twoAntennas())
-                    : ORLANatives.RFID_BlockWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
+                    ? ORLANatives.RFID_Write(NO_READER, TAG_ID, 6, p, null, null)
+                    : ORLANatives.RFID_BlockWrite(NO_READER, TAG_ID, 6, p, null, null);
             assertEquals(1, status);
             Call call = Call.last(fn);
-            assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, fn);
-            assertArrayEquals(TAG_BYTES, call.blob("tagID"));
             byte[] record = call.blob("params");
             assertArrayEquals(new long[] {2, 0xFFFE, 3, 0x8765_4321L}, fields(record, 0, 4, 4, 2, 16, 2, 20, 4), fn);
             assertZero(record, 6, 8);
             assertZero(record, 18, 20);
             assertZero(record, 24, 56);
             assertArrayEquals(new byte[] {1, 2, 3}, call.blob("params.writeData"), fn + ": exactly the length");
-            assertTwoAntennas(call);
         }
 
         byte[] data = new byte[0x8000];
@@ -204,10 +213,9 @@ class AccessOperationTest extends TagAccessTest {
         erase.byteOffset = 4;
         erase.byteCount = (short) 0x8000;
         erase.accessPassword = -1;
-        ORLANatives.RFID_BlockErase(NO_READER, TAG_ID, 6, erase, null, twoAntennas());
-        Call call = Call.last("RFID_BlockErase");
-        assertArrayEquals(new long[] {0, 4, 0x8000, 0xFFFF_FFFFL}, fields(call.blob("params"), 0, 4, 4, 2, 6, 2, 8, 4));
-        assertTwoAntennas(call);
+        ORLANatives.RFID_BlockErase(NO_READER, TAG_ID, 6, erase, null, null);
+        assertArrayEquals(new long[] {0, 4, 0x8000, 0xFFFF_FFFFL},
+                fields(Call.last("RFID_BlockErase").blob("params"), 0, 4, 4, 2, 6, 2, 8, 4));
 
         KILL_ACCESS_PARAMS kill = new KILL_ACCESS_PARAMS();
         kill.killPassword = PASSWORD;
@@ -219,9 +227,8 @@ class AccessOperationTest extends TagAccessTest {
         recommission.killPassword = PASSWORD;
         recommission.opCode = RECOMMISSION_OPERATION_CODE.RECOMMISSION_DISABLE_USER_MEMORY_PASSWORD_2ND_OPTION;
         ORLANatives.RFID_Recommission(NO_READER, TAG_ID, 6, recommission, null, null);
-        call = Call.last("RFID_Recommission");
-        assertArrayEquals(new long[] {0x8765_4321L, 6}, fields(call.blob("params"), 0, 4, 4, 4));
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"));
+        assertArrayEquals(new long[] {0x8765_4321L, 6}, fields(Call.last("RFID_Recommission").blob("params"),
+                0, 4, 4, 4));
     }
 
     @Test
@@ -229,12 +236,10 @@ class AccessOperationTest extends TagAccessTest {
         LOCK_ACCESS_PARAMS lock = new LOCK_ACCESS_PARAMS();
         lock.enumPrivilege = new short[] {0, 1, -1, 3, (short) 0x8002, 7};
         lock.accessPassword = PASSWORD;
-        ORLANatives.RFID_Lock(NO_READER, TAG_ID, 6, lock, null, twoAntennas());
-        Call call = Call.last("RFID_Lock");
-        byte[] record = call.blob("params");
+        ORLANatives.RFID_Lock(NO_READER, TAG_ID, 6, lock, null, null);
         assertArrayEquals(new long[] {0, 1, 0xFFFF, 3, 0x8002, 0x8765_4321L},
-                fields(record, 0, 4, 4, 4, 8, 4, 12, 4, 16, 4, 20, 4), "the sixth element is not read");
-        assertTwoAntennas(call);
+                fields(Call.last("RFID_Lock").blob("params"), 0, 4, 4, 4, 8, 4, 12, 4, 16, 4, 20, 4),
+                "the sixth element is not read");
     }
 
     @Test
@@ -247,13 +252,11 @@ class AccessOperationTest extends TagAccessTest {
         p.accessPassword = PASSWORD;
         p.mask = new byte[] {(byte) 0xF0, 0x0F, 0x55};
         p.maskLength = 2;
-        ORLANatives.RFID_BlockPermalock(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
+        ORLANatives.RFID_BlockPermalock(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
         Call call = Call.last("RFID_BlockPermalock");
-        byte[] record = call.blob("params");
         assertArrayEquals(new long[] {3, 1, 0x8000, 2, 0x8765_4321L, 2},
-                fields(record, 0, 4, 4, 1, 6, 2, 8, 2, 12, 4, 24, 2));
+                fields(call.blob("params"), 0, 4, 4, 1, 6, 2, 8, 2, 12, 4, 24, 2));
         assertArrayEquals(new byte[] {(byte) 0xF0, 0x0F}, call.blob("params.mask"));
-        assertTwoAntennas(call);
 
         p.readLock = false;
         p.maskLength = 0;
@@ -265,30 +268,20 @@ class AccessOperationTest extends TagAccessTest {
     }
 
     @Test
-    void blockPermalockResultTagReachesJavaOnSuccessOnly() {
-        TAG_DATA tag = checkResultTag("RFID_BlockPermalock", resultTag(7, new byte[16]), (handle, t, utc) ->
-                ORLANatives.RFID_BlockPermalock(handle, TAG_ID, 6, null, null, null, t, null, null, utc));
-        assertEquals("30001234", tag.tagID);
-    }
-
-    @Test
     void singleFieldWritesTakeNoFilterAndCopyTheirData() {
         IntBinaryOperator[] writes = {
-            (h, n) -> ORLANatives.RFID_WriteAccessPassword(h, TAG_ID, n, fieldParams(), twoAntennas()),
-            (h, n) -> ORLANatives.RFID_WriteKillPassword(h, TAG_ID, n, fieldParams(), twoAntennas()),
-            (h, n) -> ORLANatives.RFID_WriteTagID(h, TAG_ID, n, fieldParams(), twoAntennas())};
+            (h, n) -> ORLANatives.RFID_WriteAccessPassword(h, TAG_ID, n, fieldParams(), null),
+            (h, n) -> ORLANatives.RFID_WriteKillPassword(h, TAG_ID, n, fieldParams(), null),
+            (h, n) -> ORLANatives.RFID_WriteTagID(h, TAG_ID, n, fieldParams(), null)};
         String[] names = {"RFID_WriteAccessPassword", "RFID_WriteKillPassword", "RFID_WriteTagID"};
         for (int i = 0; i < writes.length; i++) {
             assertEquals(1, writes[i].applyAsInt(NO_READER, 6));
             Call call = Call.last(names[i]);
-            assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, names[i]);
-            assertArrayEquals(TAG_BYTES, call.blob("tagID"));
             byte[] record = call.blob("params");
             assertArrayEquals(new long[] {0x8004, 0x8765_4321L}, fields(record, 8, 2, 12, 4), names[i]);
             byte[] expected = new byte[0x8004];
             expected[0x8003] = 0x44;
             assertArrayEquals(expected, call.blob("params.writeData"), names[i] + ": length taken unsigned");
-            assertTwoAntennas(call);
         }
     }
 

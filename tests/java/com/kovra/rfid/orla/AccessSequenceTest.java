@@ -17,7 +17,6 @@ class AccessSequenceTest extends NativeTest {
     private static final String ADD = "RFID_AddOperationToAccessSequence";
     /** No such reader: the simulator answers only what a test scripts. */
     private static final int NO_READER = 77;
-    private static final int NOT_FOUND = 6;
 
     private static ACCESS_OPERATION operation(ACCESS_OPERATION_CODE code) {
         ACCESS_OPERATION op = new ACCESS_OPERATION();
@@ -79,60 +78,37 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(0x89AB_CDEF, index[0], "the index array is pinned without an operation too");
     }
 
+    /**
+     * Each code fills a record of its own size from its own field (block write from the write parameters), and
+     * the zeroed ones keep their reserved tail at zero; the fields themselves are filled as for the single
+     * operations. Read, erase, lock and kill records keep what the heap gave them.
+     */
     @Test
-    void gen2OperationsFillTheirRecordsBlockWriteFromTheWriteParameters() {
-        // Read, erase, lock and kill records keep what the heap gave them around their fields.
-        ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_READ);
-        op.readAccessParamsStruct.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
-        op.readAccessParamsStruct.byteOffset = (short) 0x8001;
-        op.readAccessParamsStruct.byteCount = -1;
-        op.readAccessParamsStruct.accessPassword = 0x1_2345_6789L;
-        byte[] read = params(add(op), 0);
-        assertEquals(48, read.length);
-        assertArrayEquals(new long[] {3, 0x8001, 0xFFFF, 0x2345_6789}, fields(read, 0, 4, 4, 2, 6, 2, 8, 4));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_BLOCK_ERASE);
-        op.blockEraseAccessParamsStruct.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
-        op.blockEraseAccessParamsStruct.byteOffset = 4;
-        op.blockEraseAccessParamsStruct.byteCount = (short) 0xFFFE;
-        op.blockEraseAccessParamsStruct.accessPassword = -1L;
-        byte[] erase = params(add(op), 5);
-        assertEquals(48, erase.length);
-        assertArrayEquals(new long[] {2, 4, 0xFFFE, 0xFFFF_FFFFL}, fields(erase, 0, 4, 4, 2, 6, 2, 8, 4));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_LOCK);
-        op.lockAccessParamsStruct.enumPrivilege = new short[] {-1, 1, 2, 3, 4, 0x7777};
-        op.lockAccessParamsStruct.accessPassword = 0x1_0000_0005L;
-        byte[] lock = params(add(op), 2);
-        assertEquals(56, lock.length);
-        assertArrayEquals(new long[] {0xFFFF, 1, 2, 3, 4, 5}, fields(lock, 0, 4, 4, 4, 8, 4, 12, 4, 16, 4, 20, 4),
-                "five privileges widened unsigned, then the password");
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_KILL);
-        op.killAccessParamsStruct.killPassword = 0xF_FEDC_BA98L;
-        byte[] kill = params(add(op), 3);
-        assertEquals(40, kill.length);
-        assertEquals(0xFEDC_BA98L, Bytes.u32(kill, 0));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_RECOMMISSION);
-        op.recommissionAccessParamsStruct.killPassword = 0x1_8000_0000L;
-        op.recommissionAccessParamsStruct.opCode =
-                RECOMMISSION_OPERATION_CODE.RECOMMISSION_DISABLE_USER_MEMORY_PASSWORD;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 0x8000_0000L).u32(4, 5).build(), params(add(op), 6));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_WRITE);
-        op.writeAccessParamsStruct.memoryBank = MEMORY_BANK.MEMORY_BANK_TID;
-        op.writeAccessParamsStruct.byteOffset = -2;
-        op.writeAccessParamsStruct.writeData = new byte[] {0x11, 0x22, (byte) 0x80, 0x44};
-        op.writeAccessParamsStruct.writeDataLength = 3;
-        op.writeAccessParamsStruct.accessPassword = 0xAB_0000_0001L;
-        for (int code : new int[] {1, 4}) {
-            op.opCode = ACCESS_OPERATION_CODE.values()[code];
-            Call call = add(op);
-            byte[] write = params(call, code);
-            assertArrayEquals(new Bytes.Builder(56).u32(0, 2).u16(4, 0xFFFE).ptr(8, Bytes.ptr(write, 8)).u16(16, 3)
-                    .u32(20, 1).build(), write, "code " + code);
-            assertArrayEquals(new byte[] {0x11, 0x22, (byte) 0x80}, call.blob("operation.params.writeData"));
+    void eachCodeFillsItsOwnRecordFromItsOwnField() throws ReflectiveOperationException {
+        // code, its parameter field, record size, password offset, first byte of the zeroed tail (-1: not zeroed)
+        Object[][] rows = {{0, "readAccessParamsStruct", 48, 8, -1}, {1, "writeAccessParamsStruct", 56, 20, 24},
+            {2, "lockAccessParamsStruct", 56, 20, -1}, {3, "killAccessParamsStruct", 40, 0, -1},
+            {4, "writeAccessParamsStruct", 56, 20, 24}, {5, "blockEraseAccessParamsStruct", 48, 8, -1},
+            {6, "recommissionAccessParamsStruct", 40, 0, 8}, {8, "setEASParamsStruct", 40, 0, 5},
+            {9, "readProtectParamsStruct", 40, 0, 4}, {10, "resetReadProtectParamsStruct", 40, 0, 4},
+            {20, "QTWriteParamsStruct", 80, 0, 10}, {21, "QTReadParamsStruct", 40, 0, 4},
+            {22, "nxpChangeConfigParamsStruct", 40, 0, 6}};
+        for (Object[] row : rows) {
+            int code = (int) row[0];
+            int size = (int) row[2];
+            ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.values()[code]);
+            Object params = ACCESS_OPERATION.class.getField((String) row[1]).get(op);
+            for (Field f : params.getClass().getFields()) {
+                if (f.getName().endsWith("Password")) {
+                    f.setLong(params, 0x1_0000_0100L + code);  // only the other fields' passwords stay 0
+                }
+            }
+            byte[] record = params(add(op), code);
+            assertEquals(size, record.length, "code " + code);
+            assertEquals(0x100 + code, Bytes.u32(record, (int) row[3]), "code " + code);
+            if ((int) row[4] >= 0) {
+                assertZero(record, (int) row[4], size);
+            }
         }
     }
 
@@ -169,37 +145,6 @@ class AccessSequenceTest extends NativeTest {
         assertArrayEquals(call.blob("operation"), SimControl.read(call.arg(1), 48), "the operation record is kept");
         long mask = Bytes.ptr(call.blob("operation.params"), 16);
         assertArrayEquals(p.mask, SimControl.read(mask, 16), "so is the mask");
-    }
-
-    @Test
-    void chipOperationsFillZeroedRecords() {
-        ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_NXP_SET_EAS);
-        op.setEASParamsStruct.accessPassword = 0x1_0000_00FFL;
-        op.setEASParamsStruct.EASState = true;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 0xFF).u8(4, 1).build(), params(add(op), 8));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_NXP_READ_PROTECT);
-        op.readProtectParamsStruct.accessPassword = 0xDEAD_BEEF_0000_0009L;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 9).build(), params(add(op), 9));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_NXP_RESET_READ_PROTECT);
-        op.resetReadProtectParamsStruct.accessPassword = 0x2_FFFF_FFFFL;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 0xFFFF_FFFFL).build(), params(add(op), 10));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_IMPINJ_QT_WRITE);
-        op.QTWriteParamsStruct.accessPassword = 7;
-        op.QTWriteParamsStruct.qtPersist = true;
-        op.QTWriteParamsStruct.qtData.qtControlData = (short) 0x8000;
-        assertArrayEquals(new Bytes.Builder(80).u32(0, 7).u8(4, 1).u16(8, 0x8000).build(), params(add(op), 20));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_IMPINJ_QT_READ);
-        op.QTReadParamsStruct.accessPassword = 0x1_0000_0021L;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 0x21).build(), params(add(op), 21));
-
-        op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_NXP_CHANGE_CONFIG);
-        op.nxpChangeConfigParamsStruct.accessPassword = 22;
-        op.nxpChangeConfigParamsStruct.ChangeConfigWord = (short) 0xFFFE;
-        assertArrayEquals(new Bytes.Builder(40).u32(0, 22).u16(4, 0xFFFE).build(), params(add(op), 22));
     }
 
     @Test
@@ -240,24 +185,5 @@ class AccessSequenceTest extends NativeTest {
         assertEquals(2031, fields(call.blob("triggerInfo.startTrigger.startTime"), 0, 2)[0], "its own time block");
         assertArrayEquals(new byte[40], call.blob("triggerInfo.reportTriggers"), "the report block starts zeroed");
         assertEquals(0L, call.arg(4), "the reserved argument is NULL");
-    }
-
-    @Test
-    void aSimulatedReaderNumbersTheOperationsOfItsSequence() {
-        int reader = connect();
-        assertEquals(0, ORLANatives.RFID_InitializeAccessSequence(reader));
-        int[] index = {-1};
-        ACCESS_OPERATION read = new ACCESS_OPERATION();
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(0, index[0]);
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(1, index[0]);
-        assertEquals(2, ORLANatives.RFID_AddOperationToAccessSequence(reader, null, index), "no NULL operations");
-
-        assertEquals(0, ORLANatives.RFID_DeleteOperationFromAccessSequence(reader, 0));
-        assertEquals(NOT_FOUND, ORLANatives.RFID_DeleteOperationFromAccessSequence(reader, 0), "deleted already");
-        assertEquals(0, ORLANatives.RFID_DeinitializeAccessSequence(reader));
-        assertEquals(0, ORLANatives.RFID_AddOperationToAccessSequence(reader, read, index));
-        assertEquals(0, index[0], "a new sequence counts from 0");
     }
 }

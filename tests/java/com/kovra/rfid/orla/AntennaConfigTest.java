@@ -2,11 +2,9 @@ package com.kovra.rfid.orla;
 
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
-import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
 import static org.junit.jupiter.api.Assertions.assertSame;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
@@ -144,29 +142,5 @@ class AntennaConfigTest extends NativeTest {
         assertEquals(33.25f, c.cableLengthInFt);
         assertEquals(-1.5f, c.cableLossPer100Ft);
         assertEquals(-3, c.antennaID, "the antenna is not written back");
-    }
-
-    /** Without scripts the simulated reader answers with what was set on it. */
-    @Test
-    void simulatedReaderKeepsWhatWasSet() {
-        int reader = connect();
-        ORLANatives.RFID_SetAntennaConfig(reader, (short) 2, (short) 10, (short) 20, (short) 30);
-        short[][] indices = {new short[1], new short[1], new short[1]};
-        assertEquals(0, ORLANatives.RFID_GetAntennaConfig(reader, (short) 2, indices[0], indices[1], indices[2]));
-        assertArrayEquals(new short[] {10, 20, 30}, new short[] {indices[0][0], indices[1][0], indices[2][0]});
-
-        ANTENNA_RF_CONFIG config = new ANTENNA_RF_CONFIG();
-        config.tari = 12_500;
-        ORLANatives.RFID_SetAntennaRfConfig(reader, (short) 2, config);
-        ANTENNA_RF_CONFIG got = new ANTENNA_RF_CONFIG();
-        assertEquals(0, ORLANatives.RFID_GetAntennaRfConfig(reader, (short) 2, got));
-        assertEquals(12_500L, got.tari);
-
-        boolean[] enabled = {false};
-        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
-        assertTrue(enabled[0], "read points start enabled");
-        ORLANatives.RFID_EnableReadPoint(reader, (short) 2, false);
-        assertEquals(0, ORLANatives.RFID_GetReadPointStatus(reader, (short) 2, enabled));
-        assertFalse(enabled[0]);
     }
 }

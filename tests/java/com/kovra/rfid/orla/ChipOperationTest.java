@@ -9,47 +9,11 @@ import com.kovra.rfid.orla.sim.Call;
 import org.junit.jupiter.api.Test;
 
 /**
- * NXP and Impinj commands: their zeroed 40- and 80-byte records, the
+ * NXP and Impinj commands: their zeroed 40- and 80-byte records and the
  * optional tag ID (NULL for a length that fails the command's test, with
- * the length passed as given) and the result tags of change config and QT
- * read.
+ * the length passed as given).
  */
 class ChipOperationTest extends TagAccessTest {
-
-    private static byte[] qtResult(int word) {
-        return new Bytes.Builder(16).u16(0, word).build();
-    }
-
-    @Test
-    void readProtectAndSetEasSendTheirZeroedRecords() {
-        NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
-        protect.accessPassword = PASSWORD;
-        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, twoAntennas()));
-        Call call = Call.last("RFID_NXPReadProtect");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
-        assertEquals(0x8765_4321L, Bytes.u32(assertSent(call, 4), 0));
-
-        NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
-        eas.accessPassword = PASSWORD;
-        eas.EASState = true;
-        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, twoAntennas());
-        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(assertSent(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
-    }
-
-    @Test
-    void eachOperationPassesItsObjectsOrNulls() {
-        assertObjectsOrNulls("RFID_NXPReadProtect", new NXP_READ_PROTECT_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_NXPReadProtect(h, TAG_ID, 6, (NXP_READ_PROTECT_PARAMS) p, f, a));
-        assertObjectsOrNulls("RFID_NXPSetEAS", new NXP_SET_EAS_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_NXPSetEAS(h, TAG_ID, 6, (NXP_SET_EAS_PARAMS) p, f, a));
-        assertObjectsOrNulls("RFID_NXPChangeConfig", new NXP_CHANGE_CONFIG_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_NXPChangeConfig(h, TAG_ID, 6, (NXP_CHANGE_CONFIG_PARAMS) p, f, a, t, null, null,
-                        true));
-        assertObjectsOrNulls("RFID_ImpinjQTWrite", new IMPINJ_QT_WRITE_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_ImpinjQTWrite(h, TAG_ID, 6, (IMPINJ_QT_WRITE_PARAMS) p, f, a));
-        assertObjectsOrNulls("RFID_ImpinjQTRead", new IMPINJ_QT_READ_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_ImpinjQTRead(h, TAG_ID, 6, (IMPINJ_QT_READ_PARAMS) p, f, a, t, null, null, true));
-    }
 
     @Test
     void tagIdIsConvertedOnlyForLengthsThatPassEachTest() {
@@ -94,40 +58,38 @@ class ChipOperationTest extends TagAccessTest {
         assertNotEquals(0L, call.arg(2), "the antennas all the same");
     }
 
+    /** Each command's zeroed record: the password's low 32 bits, the command's own fields, zeros after them. */
     @Test
-    void changeConfigSendsItsWordAndReturnsTheTagsWord() {
-        NXP_CHANGE_CONFIG_PARAMS p = new NXP_CHANGE_CONFIG_PARAMS();
-        p.accessPassword = PASSWORD;
-        p.ChangeConfigWord = (short) 0x8001;
-        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
+    void eachCommandSendsItsZeroedRecord() {
+        NXP_READ_PROTECT_PARAMS protect = new NXP_READ_PROTECT_PARAMS();
+        protect.accessPassword = PASSWORD;
+        assertEquals(1, ORLANatives.RFID_NXPReadProtect(NO_READER, TAG_ID, 6, protect, null, null));
+        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_NXPReadProtect"), 4), 0));
+
+        NXP_SET_EAS_PARAMS eas = new NXP_SET_EAS_PARAMS();
+        eas.accessPassword = PASSWORD;
+        eas.EASState = true;
+        ORLANatives.RFID_NXPSetEAS(NO_READER, TAG_ID, 6, eas, null, null);
+        assertArrayEquals(new long[] {0x8765_4321L, 1}, fields(sentParams(Call.last("RFID_NXPSetEAS"), 5), 0, 4, 4, 1));
+
+        NXP_CHANGE_CONFIG_PARAMS config = new NXP_CHANGE_CONFIG_PARAMS();
+        config.accessPassword = PASSWORD;
+        config.ChangeConfigWord = (short) 0x8001;
+        ORLANatives.RFID_NXPChangeConfig(NO_READER, TAG_ID, 6, config, null, null, null, null, null, true);
         assertArrayEquals(new long[] {0x8765_4321L, 0x8001},
-                fields(assertSent(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
+                fields(sentParams(Call.last("RFID_NXPChangeConfig"), 6), 0, 4, 4, 2));
 
-        TAG_DATA tag = checkResultTag("RFID_NXPChangeConfig", resultTag(22, qtResult(0xFFFE)), (handle, t, utc) ->
-                ORLANatives.RFID_NXPChangeConfig(handle, TAG_ID, 6, p, null, null, t, null, null, utc));
-        assertEquals(-2, tag.AccessOperationResult.value.nxpChangeConfigWordResult.ChangeConfigWord);
-    }
+        IMPINJ_QT_WRITE_PARAMS write = new IMPINJ_QT_WRITE_PARAMS();
+        write.accessPassword = PASSWORD;
+        write.qtPersist = true;
+        write.qtData.qtControlData = (short) 0x8000;
+        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, write, null, null);
+        assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000},
+                fields(sentParams(Call.last("RFID_ImpinjQTWrite"), 10), 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
 
-    @Test
-    void qtWriteSendsTheControlWordOfItsQtData() {
-        IMPINJ_QT_WRITE_PARAMS p = new IMPINJ_QT_WRITE_PARAMS();
-        p.accessPassword = PASSWORD;
-        p.qtPersist = true;
-        p.qtData.qtControlData = (short) 0x8000;
-        ORLANatives.RFID_ImpinjQTWrite(NO_READER, TAG_ID, 6, p, null, twoAntennas());
-        byte[] record = assertSent(Call.last("RFID_ImpinjQTWrite"), 10);
-        assertArrayEquals(new long[] {0x8765_4321L, 1, 0, 0, 0x8000}, fields(record, 0, 4, 4, 1, 5, 1, 6, 2, 8, 2));
-    }
-
-    @Test
-    void qtReadSendsItsPasswordAndReturnsTheControlWord() {
-        IMPINJ_QT_READ_PARAMS p = new IMPINJ_QT_READ_PARAMS();
-        p.accessPassword = PASSWORD;
-        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, false);
-        assertEquals(0x8765_4321L, Bytes.u32(assertSent(Call.last("RFID_ImpinjQTRead"), 4), 0));
-
-        TAG_DATA tag = checkResultTag("RFID_ImpinjQTRead", resultTag(21, qtResult(0x8001)), (handle, t, utc) ->
-                ORLANatives.RFID_ImpinjQTRead(handle, TAG_ID, 6, p, null, null, t, null, null, utc));
-        assertEquals((short) 0x8001, tag.AccessOperationResult.value.qtData.qtControlData);
+        IMPINJ_QT_READ_PARAMS read = new IMPINJ_QT_READ_PARAMS();
+        read.accessPassword = PASSWORD;
+        ORLANatives.RFID_ImpinjQTRead(NO_READER, TAG_ID, 6, read, null, null, null, null, null, false);
+        assertEquals(0x8765_4321L, Bytes.u32(sentParams(Call.last("RFID_ImpinjQTRead"), 4), 0));
     }
 }

@@ -70,10 +70,14 @@ class ErrorsVersionTest extends NativeTest {
                 "RFID_StopInventory: no such operation is running"},
             {(IntSupplier) () -> ORLANatives.RFID_DeleteOperationFromAccessSequence(handle, 7), 6, "Not found",
                 "RFID_DeleteOperationFromAccessSequence: the access sequence holds no operation 7"},
+            {(IntSupplier) () -> ORLANatives.RFID_DeregisterEventNotification(handle, RFID_EVENT_TYPE.GPI_EVENT), 6,
+                "Not found", "RFID_DeregisterEventNotification: nothing is registered for event type 0"},
+            {(IntSupplier) () -> ORLANatives.RFID_DeletePreFilter(handle, 2, 5), 6, "Not found",
+                "RFID_DeletePreFilter: antenna 2 has no pre-filter 5"},
             {(IntSupplier) () -> {
-                SimControl.setStatus("RFID_SetTraceLevel", FAILED);
+                SimControl.setStatus("RFID_SetTraceLevel", 99);
                 return ORLANatives.RFID_SetTraceLevel(handle, 1);
-            }, FAILED, "Unknown status", "RFID_SetTraceLevel: Unknown status"},
+            }, 99, "Unknown status", "RFID_SetTraceLevel: Unknown status"},
         };
         for (Object[] failure : failures) {
             int status = (Integer) failure[1];

@@ -5,16 +5,14 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
-import com.kovra.rfid.orla.sim.SimControl;
 import java.util.Arrays;
 import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.CsvSource;
 
 /**
- * Gen2v2 security commands: their zeroed records, the message of whole
- * bytes that authenticate sends, and the bit-string reply that reaches the
- * Java tag.
+ * Gen2v2 security commands: their zeroed records and the message of whole
+ * bytes that authenticate sends.
  *
  * <p>Read buffer is not called here: it reads its fields through a null
  * object reference, and this virtual machine aborts on that lookup.
@@ -33,20 +31,13 @@ class Gen2v2OperationTest extends TagAccessTest {
         return p;
     }
 
-    /** The reply of a bit-string result: 20 bits, so two whole bytes of A1 B2 C3. */
-    private static byte[] bitStringResult(int opCode) {
-        long reply = SimControl.alloc(new byte[] {(byte) 0xA1, (byte) 0xB2, (byte) 0xC3});
-        return resultTag(opCode, new Bytes.Builder(16).u16(0, 20).ptr(8, reply).build());
-    }
-
     @Test
     void authenticateSendsItsZeroedRecord() {
-        ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, twoAntennas(), null,
-                null, null, true);
+        ORLANatives.RFID_Athenticate(NO_READER, TAG_ID, 6, authenticate(32, MESSAGE), null, null, null, null, null,
+                true);
         Call call = Call.last("RFID_Authenticate");
-        assertArrayEquals(new long[] {NO_READER_RAW, 6}, new long[] {call.arg(0), call.arg(2)}, "handle, length");
         assertArrayEquals(new long[] {1, 0, 0xFE, 0, 32, 0, 0, 0x8765_4321L},
-                fields(assertSent(call, 24), 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
+                fields(sentParams(call, 24), 0, 1, 1, 1, 2, 1, 3, 1, 4, 2, 6, 2, 20, 4, 16, 4));
         assertArrayEquals(MESSAGE, call.blob("params.pMessage"));
     }
 
@@ -78,9 +69,9 @@ class Gen2v2OperationTest extends TagAccessTest {
     /** The three booleans read (assertU, hideEPC, hideUser) = (0, 1, 1), then (1, 0, 1): none stands for another. */
     @Test
     void untraceableSendsItsZeroedRecord() {
-        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, twoAntennas(), null, null, null, true);
+        ORLANatives.RFID_Untraceable(NO_READER, TAG_ID, 6, untraceable(), null, null, null, null, null, true);
         assertArrayEquals(new long[] {0, 1, 6, 0, 2, 1, 0, 0, 0, 1, 0x8765_4321L, 0},
-                fields(assertSent(Call.last("RFID_Untraceable"), 24),
+                fields(sentParams(Call.last("RFID_Untraceable"), 24),
                         0, 1, 1, 1, 2, 1, 3, 1, 4, 4, 8, 1, 9, 1, 10, 1, 11, 1, 12, 4, 16, 4, 20, 4));
 
         UNTRACEABLE_PARAMS other = new UNTRACEABLE_PARAMS();
@@ -103,39 +94,12 @@ class Gen2v2OperationTest extends TagAccessTest {
         p.blockCount = 3;
         p.protMode = (byte) 0x80;
         p.accessPassword = PASSWORD;
-        ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, p, null, twoAntennas(), null, null, null, true);
-        byte[] record = assertSent(Call.last("RFID_Crypto"), 28);
+        ORLANatives.RFID_Crypto(NO_READER, TAG_ID, 6, p, null, null, null, null, null, true);
+        byte[] record = sentParams(Call.last("RFID_Crypto"), 28);
         assertArrayEquals(new long[] {0x81, 0xFFFF_FFFFL, 0x1234_5678, 0x8000_0000L, 1, 2, 0xF0, 3, 0x80,
             0x8765_4321L}, fields(record, 0, 1, 4, 4, 8, 4, 12, 4, 16, 1, 17, 1, 18, 1, 19, 1, 20, 1, 24, 4),
                 "the fourth challenge word is not read");
         assertZero(record, 1, 4);
         assertZero(record, 21, 24);
-    }
-
-    /** Crypto alone takes a null parameter object; the other two need theirs. */
-    @Test
-    void eachOperationPassesItsObjectsOrNulls() {
-        assertObjectsOrNulls("RFID_Authenticate", authenticate(8, MESSAGE), false, (h, p, f, a, t) ->
-                ORLANatives.RFID_Athenticate(h, TAG_ID, 6, (AUTHENTICATE_PARAMS) p, f, a, t, null, null, true));
-        assertObjectsOrNulls("RFID_Untraceable", untraceable(), false, (h, p, f, a, t) ->
-                ORLANatives.RFID_Untraceable(h, TAG_ID, 6, (UNTRACEABLE_PARAMS) p, f, a, t, null, null, true));
-        assertObjectsOrNulls("RFID_Crypto", new CRYPTO_PARAMS(), (h, p, f, a, t) ->
-                ORLANatives.RFID_Crypto(h, TAG_ID, 6, (CRYPTO_PARAMS) p, f, a, t, null, null, true));
-    }
-
-    @Test
-    void eachReplyReachesTheJavaTagOnSuccessOnly() {
-        String[] functions = {"RFID_Authenticate", "RFID_Untraceable", "RFID_Crypto"};
-        int[] opCodes = {23, 26, 24};
-        ResultTagOperation[] operations = {
-            (h, t, utc) -> ORLANatives.RFID_Athenticate(h, TAG_ID, 6, authenticate(8, MESSAGE), null, null, t, null,
-                    null, utc),
-            (h, t, utc) -> ORLANatives.RFID_Untraceable(h, TAG_ID, 6, untraceable(), null, null, t, null, null, utc),
-            (h, t, utc) -> ORLANatives.RFID_Crypto(h, TAG_ID, 6, null, null, null, t, null, null, utc)};
-        for (int i = 0; i < functions.length; i++) {
-            SimControl.reset();
-            TAG_DATA tag = checkResultTag(functions[i], bitStringResult(opCodes[i]), operations[i]);
-            assertEquals("A1B2", tag.AccessOperationResult.value.authenticateReadBufferResult, functions[i]);
-        }
     }
 }

@@ -2,8 +2,6 @@ package com.kovra.rfid.orla;
 
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
-import static org.junit.jupiter.api.Assertions.assertFalse;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.Call;
@@ -50,17 +48,5 @@ class GpioLedTest extends NativeTest {
         led.blink = false;
         ORLANatives.RFID_SetUserLED(reader, led);
         assertArrayEquals(new long[] {1, 0}, fields(SimControl.blob("RFID_SetUserLED", -1, "ledInfo"), 0, 4, 8, 1));
-    }
-
-    @Test
-    void theSimulatedReaderKeepsEachOutputPortsState() {
-        int reader = connect();
-        ORLANatives.RFID_SetGPOState(reader, 3, true);
-        boolean[] third = {false};
-        boolean[] fourth = {true};
-        ORLANatives.RFID_GetGPOState(reader, 3, third);
-        ORLANatives.RFID_GetGPOState(reader, 4, fourth);
-        assertTrue(third[0]);
-        assertFalse(fourth[0]);
     }
 }

@@ -2,9 +2,7 @@ package com.kovra.rfid.orla;
 
 import static org.junit.jupiter.api.Assertions.assertArrayEquals;
 import static org.junit.jupiter.api.Assertions.assertEquals;
-import static org.junit.jupiter.api.Assertions.assertNotEquals;
 import static org.junit.jupiter.api.Assertions.assertNull;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
@@ -187,39 +185,5 @@ class ProfilesAppsTest extends NativeTest {
         SimControl.setOutput("rfid_GetNumInstalledApps", new Bytes.Builder(4).u32(0, 9).build());
         SimControl.setStatus("rfid_GetNumInstalledApps", FAILED);
         assertEquals(9, ORLANatives.RFID_NumInstalledApps(-5), "the count, not the status");
-    }
-
-    @Test
-    void theSimulatedReaderKeepsProfilesUpdatesAndApplications() {
-        int reader = connect();
-        PROFILE_LIST profiles = new PROFILE_LIST();
-        assertEquals(0, ORLANatives.RFID_SetActiveProfile(reader, "fast"));
-        assertEquals(0, ORLANatives.RFID_DeleteProfile(reader, "dense"));
-        assertEquals(0, ORLANatives.RFID_GetProfileList(reader, profiles));
-        assertEquals("default:fast", profiles.ProfileNamesList);
-        assertEquals(1, profiles.activeProfileIndex);
-
-        UPDATE_INFO update = new UPDATE_INFO();
-        update.hostName = "10.0.0.9";
-        assertEquals(0, ORLANatives.RFID_UpdateSoftware(reader, update));
-        UPDATE_STATUS progress = new UPDATE_STATUS();
-        assertEquals(0, ORLANatives.RFID_GetUpdateStatus(reader, progress));
-        assertEquals(100, progress.percentage);
-        assertEquals("Software updated from 10.0.0.9", progress.updateInfo);
-
-        assertEquals(0, ORLANatives.RFID_InstallUserApp(reader, "apps/gateway-2.1.pkg"));
-        assertEquals(0, ORLANatives.RFID_StartUserApp(reader, "gateway-2.1"));
-        assertEquals(0, ORLANatives.RFID_SetAutoStartUserApp(reader, "gateway-2.1", true));
-        assertEquals(1, ORLANatives.RFID_NumInstalledApps(reader));
-        USER_APP_INFO[] listed = apps(1);
-        assertEquals(0, ORLANatives.RFID_ListUserApps(reader, listed));
-        assertEquals("gateway-2.1", listed[0].appName);
-        assertTrue(listed[0].runStatus && listed[0].autoStart);
-
-        assertEquals(0, ORLANatives.RFID_UninstallUserApp(reader, "gateway-2.1"));
-        assertEquals(0, ORLANatives.RFID_NumInstalledApps(reader));
-        USER_APP_RUN_STATUS run = new USER_APP_RUN_STATUS();
-        assertNotEquals(0, ORLANatives.RFID_GetCurrentUserAppRunStatus(reader, "gateway-2.1", run),
-                "an uninstalled application is unknown");
     }
 }

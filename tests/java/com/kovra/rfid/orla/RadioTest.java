@@ -5,13 +5,12 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kovra.rfid.orla.sim.Bytes;
 import com.kovra.rfid.orla.sim.SimControl;
 import org.junit.jupiter.api.Test;
 
-/** USB operation mode, power negotiation and what the simulated radio keeps. */
+/** USB operation mode and power negotiation. */
 class RadioTest extends NativeTest {
 
     @Test
@@ -48,31 +47,5 @@ class RadioTest extends NativeTest {
                 () -> ORLANatives.RFID_GetPowerNegotiationState(reader, new POWER_NEGOTIATION_STATE()));
         assertEquals(0, SimControl.count("RFID_GetPowerNegotiationStatus")
                 + SimControl.count("RFID_SetPowerNegotiationState") + SimControl.count("RFID_GetPowerNegotiationState"));
-    }
-
-    @Test
-    void theSimulatedReaderReadsBackWhatWasSet() {
-        int reader = connect();
-        boolean[] on = {false};
-        ORLANatives.RFID_GetRadioPowerState(reader, on);
-        assertTrue(on[0], "the radio starts on");
-
-        ORLANatives.RFID_SetRadioPowerState(reader, false);
-        ORLANatives.RFID_TurnOffRadioWhenIdle(reader, 30_000);
-        ORLANatives.RFID_SetRFMode(reader, (short) 2, 4, 25);
-        USB_OPERATION_MODE_SETTINGS usb = new USB_OPERATION_MODE_SETTINGS();
-        usb.mode = USB_OPERATION_MODE.USB_OPERATION_MODE_SERIAL;
-        ORLANatives.RFID_SetUSBOperationMode(reader, usb);
-
-        int[] timeout = {0};
-        int[] mode = {0};
-        int[] tari = {0};
-        USB_OPERATION_MODE_SETTINGS got = new USB_OPERATION_MODE_SETTINGS();
-        ORLANatives.RFID_GetRadioPowerState(reader, on);
-        ORLANatives.RFID_GetRadioIdleTimeout(reader, timeout);
-        ORLANatives.RFID_GetRFMode(reader, (short) 2, mode, tari);
-        ORLANatives.RFID_GetUSBOperationMode(reader, got);
-        assertFalse(on[0]);
-        assertArrayEquals(new int[] {30_000, 4, 25, 1}, new int[] {timeout[0], mode[0], tari[0], got.enumMode});
     }
 }

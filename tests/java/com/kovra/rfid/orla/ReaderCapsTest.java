@@ -348,21 +348,4 @@ class ReaderCapsTest extends NativeTest {
         assertArrayEquals(new int[2], caps.receiveSensitivtyTable.receiveSensitivityValueList);
         assertEquals(0, caps.rfModes.uhfTables[0].tablesEntries[0].modeIdentifer);
     }
-
-    /** The demo reader: its tables behind real pointers come through the whole walk. */
-    @Test
-    void unscriptedSimulatedReaderReportsItsTables() {
-        READER_CAPS caps = new READER_CAPS();
-        assertEquals(0, ORLANatives.RFID_GetReaderCaps(connect(), caps));
-        assertEquals("Simulated four-port reader", caps.modelName);
-        assertEquals(4, caps.numAntennas);
-        assertEquals(1, caps.rfModes.numTables);
-        assertEquals(2, caps.rfModes.uhfTables[0].numEntries);
-        assertEquals(320_000, caps.rfModes.uhfTables[0].tablesEntries[1].bdrValue);
-        assertEquals(21, caps.transmitPowerLevelTable.numValues);
-        assertEquals(3000, caps.transmitPowerLevelTable.powerValueList[20]);
-        assertEquals(4, caps.freqHopInfo.freqTables[0].numFreq);
-        assertEquals(910_250, caps.freqHopInfo.freqTables[0].freqList[3]);
-        assertEquals(0, caps.dutyCycleTable.numValues, "no duty cycle table");
-    }
 }

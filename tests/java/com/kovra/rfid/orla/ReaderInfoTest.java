@@ -74,43 +74,6 @@ class ReaderInfoTest extends NativeTest {
     }
 
     @Test
-    void theSimulatedReaderKeepsItsIdentityClockAndTimeZone() {
-        int reader = connect();
-        READER_INFO sent = new READER_INFO();
-        sent.name = "gate 7";
-        sent.description = "inbound";
-        sent.location = "yard";
-        sent.contact = "night shift";
-        assertEquals(0, ORLANatives.RFID_SetReaderInfo(reader, sent));
-
-        READER_INFO got = new READER_INFO();
-        assertEquals(0, ORLANatives.RFID_GetReaderInfo(reader, got));
-        assertArrayEquals(new String[] {"gate 7", "inbound", "yard", "night shift"},
-                new String[] {got.name, got.description, got.location, got.contact});
-        SYSTEM_INFO system = new SYSTEM_INFO();
-        assertEquals(0, ORLANatives.RFID_GetSystemInfo(reader, system));
-        assertArrayEquals(new String[] {"gate 7", "yard"}, new String[] {system.readerName, system.readerLocation});
-
-        SYSTEMTIME time = new SYSTEMTIME();
-        time.Year = 2030;
-        time.Month = 6;
-        time.Day = 15;
-        time.Hour = 10;
-        assertEquals(0, ORLANatives.RFID_SetLocalTime(reader, time));
-        SYSTEMTIME now = new SYSTEMTIME();
-        assertEquals(0, ORLANatives.RFID_GetLocalTime(reader, now));
-        assertArrayEquals(new short[] {2030, 6, 15, 10}, new short[] {now.Year, now.Month, now.Day, now.Hour});
-        time.Month = 13;
-        assertNotEquals(0, ORLANatives.RFID_SetLocalTime(reader, time), "an impossible date is refused");
-
-        assertEquals(0, ORLANatives.RFID_SetTimeZone(reader, (short) 2));
-        TIME_ZONE_LIST zones = new TIME_ZONE_LIST();
-        assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
-        assertEquals(zones.numTimeZones, zones.TimeZoneList.split("#").length);
-        assertEquals(2, zones.activeTimeZoneIndex);
-    }
-
-    @Test
     void clockMembersTravelBitForBitInTheirOrder() {
         int reader = connect();
         SimControl.setOutput("RFID_GetLocalTime", systemTime(new Bytes.Builder(16), 0, 0x7FFE).build());

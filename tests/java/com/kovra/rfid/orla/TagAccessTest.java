@@ -33,12 +33,10 @@ abstract class TagAccessTest extends NativeTest {
         assertArrayEquals(new long[] {2, 0}, fields(call.blob("antennaInfo.antennaOpList"), 0, 4, 4, 4));
     }
 
-    /** The call's tag ID bytes, its parameter record (checked zero from zeroFrom to its end) and its antennas. */
-    static byte[] assertSent(Call call, int zeroFrom) {
-        assertArrayEquals(TAG_BYTES, call.blob("tagID"), call.fn);
+    /** The call's parameter record, checked zero from zeroFrom to its end. */
+    static byte[] sentParams(Call call, int zeroFrom) {
         byte[] record = call.blob("params");
         assertZero(record, zeroFrom, record.length);
-        assertTwoAntennas(call);
         return record;
     }
 
@@ -85,14 +83,17 @@ abstract class TagAccessTest extends NativeTest {
 
     /**
      * Runs op on a connected reader with an object in each place, then with null in each (but the parameters,
-     * where the operation requires them): every pointer after the tag ID length is set in the first call, the
-     * antennas in their own place, and NULL in the second; the reserved last one is NULL in both.
+     * where the operation requires them): the tag ID arrives as bytes with its length, every pointer after the
+     * length is set in the first call, the antennas in their own place, and NULL in the second; the reserved
+     * last one is NULL in both.
      */
     static void assertObjectsOrNulls(String fn, Object params, boolean paramsOptional, ObjectsOperation op) {
         int handle = connect();
         op.run(handle, params, new ACCESS_FILTER(), twoAntennas(), new TAG_DATA());
         Call call = Call.last(fn);
+        assertArrayEquals(TAG_BYTES, call.blob("tagID"), fn + ": upper and lower case digits alike");
         long[] args = call.args();
+        assertEquals(6L, args[2], fn + ": the tag ID length");
         for (int i = 3; i < args.length - 1; i++) {
             assertNotEquals(0L, args[i], fn + ": argument " + i);
         }

@@ -30,6 +30,9 @@ public final class ReaderDemo {
     private static final int BATCH = 64;
     /** Bit offset of the EPC in the EPC bank (after the CRC and PC words). */
     private static final short EPC_BIT_OFFSET = 32;
+    /** The table's lines; the EPC column holds a 256-bit EPC (64 hexadecimal digits). */
+    private static final String HEADER_FORMAT = "%-64s %7s %6s %7s  %s%n";
+    private static final String ROW_FORMAT = "%-64s %7d %6d %7d  %s%n";
 
     private final Options options;
     private final PrintStream out = System.out;
@@ -45,23 +48,41 @@ public final class ReaderDemo {
         }
     }
 
+    /** Exit status of a usage error. */
+    private static final int USAGE = 2;
+
     public static void main(String[] args) {
-        Options options = Options.parse(args);
-        if (options == null) {
+        Options options;
+        try {
+            options = Options.parse(args);
+        } catch (UsageError e) {
+            System.err.println("demo: " + e.getMessage());
+            System.err.println(Options.SYNOPSIS);
+            System.err.println("(--help lists the options)");
+            System.exit(USAGE);
             return;
         }
-        OrlaLibrary.load();
+        if (options.help) {
+            System.out.printf(Options.HELP);
+            return;
+        }
+        try {
+            OrlaLibrary.load();
+        } catch (UnsatisfiedLinkError e) {
+            System.err.println("demo: " + e.getMessage());
+            System.exit(1);
+        }
         System.exit(new ReaderDemo(options).run());
     }
 
     private int run() {
         long[] handleOut = new long[1];
-        int status = ORLANatives.RFID_Connect(handleOut, options.host, 5084, 0, new CONNECTION_INFO());
+        int status = ORLANatives.RFID_Connect(handleOut, options.host, options.port, 0, new CONNECTION_INFO());
         if (status != 0) {
             return fail("connect", status);
         }
         int reader = (int) handleOut[0];
-        out.printf("connected to %s, reader handle %d%n", options.host, reader);
+        out.printf("connected to %s:%d, reader handle %d%n", options.host, options.port, reader);
         int readEvent = (int) ORLANatives.rfidUtils_CreateEvent(0, 0, 0);
         try {
             status = ORLANatives.RFID_RegisterEventNotification(reader, RFID_EVENT_TYPE.TAG_READ_EVENT, readEvent);
@@ -126,11 +147,11 @@ public final class ReaderDemo {
         if (live && !last) {
             out.print("\033[H\033[2J");
         }
-        out.printf("%-34s %7s %6s %7s  %s%n", "EPC", "antenna", "RSSI", "count", "field");
+        out.printf(HEADER_FORMAT, "EPC", "antenna", "RSSI", "count", "field");
         List<Row> sorted = new ArrayList<>(rows.values());
         sorted.sort((a, b) -> a.epc.equals(b.epc) ? Short.compare(a.antenna, b.antenna) : a.epc.compareTo(b.epc));
         for (Row row : sorted) {
-            out.printf("%-34s %7d %6d %7d  %s%n", row.epc, row.antenna, row.peakRssi, row.count,
+            out.printf(ROW_FORMAT, row.epc, row.antenna, row.peakRssi, row.count,
                     now - row.lastReadMs < Row.GONE_AFTER_MS ? "here" : "gone");
         }
         out.printf("%d tags, %d reads%n", uniqueEpcs(), rows.values().stream().mapToLong(r -> r.count).sum());
@@ -206,57 +227,96 @@ public final class ReaderDemo {
         }
     }
 
+    /** A command line the demo cannot run with; main reports it without a stack trace. */
+    static final class UsageError extends Exception {
+        private static final long serialVersionUID = 1L;
+
+        UsageError(String message) {
+            super(message);
+        }
+    }
+
     /** Command-line options. */
     static final class Options {
+        static final String SYNOPSIS = "usage: demo [--duration MS] [--antennas 1,2,...] [--filter EPC-HEX-PREFIX]"
+                + " [--host NAME] [--port N] [--help]";
+        static final String HELP = SYNOPSIS + "%n"
+                + "Runs an inventory on the reader and shows a live table of the tags it reads.%n"
+                + "  --duration MS      how long the inventory runs, in milliseconds (default 3000)%n"
+                + "  --antennas 1,3     the antennas to read with (default: every antenna)%n"
+                + "  --filter HEX       only EPCs that begin with these hexadecimal digits (default: every tag)%n"
+                + "  --host NAME        the reader's host name (default sim-reader)%n"
+                + "  --port N           the reader's port (default 5084)%n"
+                + "  --help             this text%n"
+                + "The simulated reader ignores the host and the port. Its tags are built in, or read from%n"
+                + "the file that the environment variable HALYARD_SIM_TAGS names (docs/simulated-tags.md).%n";
+
+        boolean help;
         String host = "sim-reader";
+        int port = 5084;
         int durationMs = 3000;
         short[] antennas;
         String antennasText;
         String epcPrefix;
 
-        static Options parse(String[] args) {
+        static Options parse(String[] args) throws UsageError {
             Options o = new Options();
             for (int i = 0; i < args.length; i++) {
-                String value = i + 1 < args.length ? args[i + 1] : null;
-                switch (args[i]) {
+                String option = args[i];
+                if (option.equals("--help") || option.equals("-h")) {
+                    o.help = true;
+                    continue;
+                }
+                String value = i + 1 < args.length ? args[++i] : null;
+                switch (option) {
                     case "--duration":
-                        o.durationMs = Integer.parseInt(required(args[i], value));
-                        i++;
+                        o.durationMs = number(option, value, 1, Integer.MAX_VALUE);
                         break;
                     case "--antennas":
-                        o.antennasText = required(args[i], value);
+                        o.antennasText = required(option, value);
                         String[] ids = o.antennasText.split(",");
                         o.antennas = new short[ids.length];
                         for (int k = 0; k < ids.length; k++) {
-                            o.antennas[k] = Short.parseShort(ids[k].trim());
+                            o.antennas[k] = (short) number(option, ids[k].trim(), 1, Short.MAX_VALUE);
                         }
-                        i++;
                         break;
                     case "--filter":
-                        o.epcPrefix = required(args[i], value).toUpperCase();
-                        if (!o.epcPrefix.matches("[0-9A-F]+")) {
-                            throw new IllegalArgumentException("--filter takes hexadecimal digits");
+                        o.epcPrefix = required(option, value).toUpperCase();
+                        if (!o.epcPrefix.matches("[0-9A-F]{1,64}")) {
+                            throw new UsageError("--filter takes 1 to 64 hexadecimal digits, not '" + value + "'");
                         }
-                        i++;
                         break;
                     case "--host":
-                        o.host = required(args[i], value);
-                        i++;
+                        o.host = required(option, value);
+                        break;
+                    case "--port":
+                        o.port = number(option, value, 1, 65535);
                         break;
                     default:
-                        System.out.println("usage: demo [--duration MS] [--antennas 1,2,...] [--filter EPC-HEX-PREFIX]"
-                                + " [--host NAME]");
-                        return null;
+                        throw new UsageError("unknown option '" + option + "'");
                 }
             }
             return o;
         }
 
-        private static String required(String option, String value) {
+        private static String required(String option, String value) throws UsageError {
             if (value == null) {
-                throw new IllegalArgumentException(option + " needs a value");
+                throw new UsageError(option + " needs a value");
             }
             return value;
+        }
+
+        private static int number(String option, String value, int min, int max) throws UsageError {
+            String text = required(option, value);
+            try {
+                int n = Integer.parseInt(text);
+                if (n >= min && n <= max) {
+                    return n;
+                }
+            } catch (NumberFormatException e) {
+                // reported below
+            }
+            throw new UsageError(option + " takes a number from " + min + " to " + max + ", not '" + text + "'");
         }
     }
 }

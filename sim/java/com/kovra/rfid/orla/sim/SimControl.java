@@ -1,5 +1,7 @@
 package com.kovra.rfid.orla.sim;
 
+import com.kovra.rfid.orla.OrlaLibrary;
+
 /**
  * Test access to the simulated reader library: its journal of C API calls
  * and the scripts that decide what the simulated calls answer.
@@ -15,17 +17,14 @@ package com.kovra.rfid.orla.sim;
  * index counts back from the last call (-1 is the last). Asking for a call
  * that was not made throws {@link IllegalArgumentException}.
  *
- * <p>The library is loaded from the path in the system property
- * "orla.sim" when it is set, else as "halyard" from the library path.
+ * <p>The simulator is loaded with the JNI library, by
+ * {@link OrlaLibrary#load()}: from orla-sim.jar, or from the files that the
+ * system properties "orla.sim" and "orla.lib" name (absolute or relative to
+ * the working directory).
  */
 public final class SimControl {
   static {
-    String path = System.getProperty("orla.sim");
-    if (path != null) {
-      System.load(new java.io.File(path).getAbsolutePath());
-    } else {
-      System.loadLibrary("halyard");
-    }
+    OrlaLibrary.load();
   }
 
   private SimControl() {}

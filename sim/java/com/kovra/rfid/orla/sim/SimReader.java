@@ -1,5 +1,7 @@
 package com.kovra.rfid.orla.sim;
 
+import com.kovra.rfid.orla.OrlaLibrary;
+
 /**
  * Test access to the simulated reader's tag side: the tag population in its
  * field, GPI inputs, reader events, and counters that show what the library
@@ -13,15 +15,12 @@ package com.kovra.rfid.orla.sim;
  *
  * <p>Reader handles are those the simulated connection issued; a handle that
  * is not an open session throws {@link IllegalArgumentException}.
+ *
+ * <p>The simulator is loaded as {@link SimControl} says.
  */
 public final class SimReader {
   static {
-    String path = System.getProperty("orla.sim");
-    if (path != null) {
-      System.load(path);
-    } else {
-      System.loadLibrary("halyard");
-    }
+    OrlaLibrary.load();
   }
 
   private SimReader() {}
