@@ -6,9 +6,6 @@
 # per run. Each test runs this same file in script mode (cmake -P): it starts
 # the example, requires exit code EXIT, and requires every line that
 # orla_example_expect() lists for the run to appear in the example's output.
-#
-# ORLA_EXAMPLES_STRICT=1 in the environment adds the checks that need a
-# simulator that keeps what is written to tags (a write read back).
 
 # The regular expressions that the output of a run must match, one a line.
 function(orla_example_expect run out)
@@ -20,13 +17,10 @@ function(orla_example_expect run out)
       "EPC bank holds 303425B4C000000000000003: matches the tag ID"
       "write user memory: ${ok}"
       "read MEMORY_BANK_USER: ${ok}"
-      "wrote CAFEF00D, read back [0-9A-F]+: (match|differ)"
+      "wrote CAFEF00D, read back CAFEF00D: match"
       "write access password: ${ok}"
       "lock user memory: ${ok}"
       "disconnect: ${ok}")
-    if("$ENV{ORLA_EXAMPLES_STRICT}" STREQUAL "1")
-      list(APPEND lines "wrote CAFEF00D, read back CAFEF00D: match")
-    endif()
   elseif(run STREQUAL "TagAccessUnknownTag")
     set(lines
       "read MEMORY_BANK_EPC: RFID_NOT_FOUND"

@@ -1,6 +1,7 @@
 # Packages (.deb and .tar.gz) of the device component and of the developer
 # kit, one cpack run each (scripts/package.sh):
 #   cpack --config CPackConfig.cmake -D ORLA_PACKAGE=device
+#   cpack --config CPackConfig.cmake -D ORLA_PACKAGE=fieldtools
 #   cpack --config CPackConfig.cmake -D ORLA_PACKAGE=devkit
 # packaging/cpack_project.cmake picks the component, the install prefix and
 # the file names for the package asked for.
@@ -26,6 +27,10 @@ set(CPACK_DEBIAN_DEVICE_PACKAGE_NAME orla-jni-device)
 set(CPACK_DEBIAN_DEVICE_DESCRIPTION
   "liborlajni.so for the reader (platform/lib), with its debug file under lib/debug/.build-id")
 set(CPACK_DEBIAN_DEVICE_PACKAGE_DEPENDS "libc6, libstdc++6")
+set(CPACK_DEBIAN_FIELDTOOLS_PACKAGE_NAME orla-jni-fieldtools)
+set(CPACK_DEBIAN_FIELDTOOLS_DESCRIPTION
+  "Field tools for a reader (opt/orla-tools): orla-check, the call tracer libhalyard-trace.so, orla-trace")
+set(CPACK_DEBIAN_FIELDTOOLS_PACKAGE_DEPENDS "libc6, libstdc++6")
 set(CPACK_DEBIAN_DEVKIT_PACKAGE_NAME orla-jni-devkit)
 set(CPACK_DEBIAN_DEVKIT_DESCRIPTION
   "orla-sdk.jar, orla-sim.jar (with the simulated reader inside), the simulator in lib/orla-sim, docs")

@@ -24,88 +24,31 @@
 namespace sim {
 namespace {
 
-constexpr size_t kAccessOperationBytes = 48;
-constexpr size_t kOperationParamsAt = 8;
-
-// A buffer a parameter record points to: the pointer's offset, the offset
-// of its 16-bit length, and how many length units make a byte.
-struct Pointee {
-  const char* name;
-  size_t pointerAt;
-  size_t lengthAt;
-  unsigned unitsPerByte;
-};
-
-constexpr Pointee kWriteData{"writeData", 8, 16, 1};
-constexpr Pointee kFieldWriteData{"writeData", 0, 8, 1};
-constexpr Pointee kPermalockMask{"mask", 16, 24, 1};
-constexpr Pointee kMessage{"pMessage", 8, 4, 8};  // length in bits
-
-struct ParamsLayout {
-  size_t bytes;
-  const Pointee* pointee;
-};
-
-constexpr ParamsLayout kReadParams{48, nullptr};
-constexpr ParamsLayout kWriteParams{56, &kWriteData};
-constexpr ParamsLayout kBlockEraseParams{48, nullptr};
-constexpr ParamsLayout kLockParams{56, nullptr};
-constexpr ParamsLayout kKillParams{40, nullptr};
-constexpr ParamsLayout kPermalockParams{64, &kPermalockMask};
-constexpr ParamsLayout kRecommissionParams{40, nullptr};
-constexpr ParamsLayout kWriteFieldParams{48, &kFieldWriteData};
-constexpr ParamsLayout kNxpParams{40, nullptr};
-constexpr ParamsLayout kQtReadParams{40, nullptr};
-constexpr ParamsLayout kQtWriteParams{80, nullptr};
-constexpr ParamsLayout kAuthenticateParams{56, &kMessage};
-constexpr ParamsLayout kUntraceableParams{56, nullptr};
-constexpr ParamsLayout kReadBufferParams{40, nullptr};
-constexpr ParamsLayout kCryptoParams{64, nullptr};
-
-void captureParams(ApiCall& call, const std::string& name, const void* params, ParamsLayout layout) {
-  call.blob(name, params, layout.bytes);
-  if (layout.pointee == nullptr) return;
-  const Blob& record = call.captured(name);
-  const Pointee& p = *layout.pointee;
-  call.blob(name + "." + p.name, pointerAt(record, p.pointerAt), fieldAt<uint16_t>(record, p.lengthAt) / p.unitsPerByte);
+// A parameter record with the buffer it points to (record/record_layouts.h).
+void captureParams(ApiCall& call, const std::string& name, const void* params, const layout::Record& record) {
+  layout::captureRecord(call, name, params, record);
 }
 
-// The name under which the buffer a record points to is captured, after
-// the record's own name and a dot; NULL when it points to none.
-const char* pointeeName(ParamsLayout layout) { return layout.pointee == nullptr ? nullptr : layout.pointee->name; }
-
-// The parameter record of an access-sequence operation, by operation code.
-ParamsLayout operationLayout(uint32_t opCode) {
-  switch (opCode) {
-    case kOpRead: return kReadParams;
-    case kOpWrite: return kWriteParams;
-    case kOpLock: return kLockParams;
-    case kOpKill: return kKillParams;
-    case kOpBlockWrite: return kWriteParams;
-    case kOpBlockErase: return kBlockEraseParams;
-    case kOpRecommission: return kRecommissionParams;
-    case kOpBlockPermalock: return kPermalockParams;
-    case kOpNxpSetEas: case kOpNxpReadProtect: case kOpNxpResetReadProtect: return kNxpParams;
-    case kOpQtWrite: return kQtWriteParams;
-    case kOpQtRead: return kQtReadParams;
-    case kOpNxpChangeConfig: return kNxpParams;
-    default: return {0, nullptr};
+// The name under which the buffer a parameter record points to is captured,
+// after the record's own name and a dot; NULL when it points to none.
+const char* pointeeName(const layout::Record& record) {
+  for (const layout::Field& field : record.fields) {
+    if (field.kind == layout::Kind::Pointer) return field.name;
   }
+  return nullptr;
 }
 
 // An operation that is NULL or cannot be read, or whose parameter record
 // cannot be read, is refused with kInvalidParam.
 void captureOperation(ApiCall& call, const void* operation) {
-  call.blob("operation", operation, kAccessOperationBytes);
+  call.blob("operation", operation, layout::AccessOperation().size);
   call.require(operation);
   const Blob& record = call.captured("operation");
   if (!record.present || record.faulted) {
     call.require(nullptr);
     return;
   }
-  ParamsLayout layout = operationLayout(fieldAt<uint32_t>(record, 0));
-  if (layout.bytes == 0) return;
-  captureParams(call, "operation.params", pointerAt(record, kOperationParamsAt), layout);
+  layout::capturePointees(call, "operation", "operation", 0, layout::AccessOperation());
   if (call.captured("operation.params").faulted) call.require(nullptr);
 }
 
@@ -113,9 +56,9 @@ void captureOperation(ApiCall& call, const void* operation) {
 // parameter record with the buffer it points to, the filter and the
 // antennas.
 void captureTagOperation(ApiCall& call, const uint8_t* tagID, uint32_t tagIDLength, const void* params,
-                         ParamsLayout layout, const void* filter, const void* antenna) {
+                         const layout::Record& paramsRecord, const void* filter, const void* antenna) {
   call.blob("tagID", tagID, tagIDLength);
-  captureParams(call, "params", params, layout);
+  captureParams(call, "params", params, paramsRecord);
   captureFilter(call, "accessFilter", filter);
   captureAntennaInfo(call, "antennaInfo", antenna);
 }
@@ -126,7 +69,8 @@ AccessOperation addedOperation(const ApiCall& call) {
   AccessOperation operation;
   operation.op = fieldAt<uint32_t>(call.captured("operation"), 0);
   operation.params = call.captured("operation.params");
-  const char* pointee = pointeeName(operationLayout(operation.op));
+  const layout::Record* params = layout::OperationParams(operation.op);
+  const char* pointee = params == nullptr ? nullptr : pointeeName(*params);
   if (pointee != nullptr) operation.data = call.captured(std::string("operation.params.") + pointee);
   return operation;
 }
@@ -178,57 +122,57 @@ extern "C" {
 int32_t RFID_Read(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Read", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::ReadAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Read", sim::kOpRead, nullptr, tag);
 }
 
 int32_t RFID_BlockPermalock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_BlockPermalock", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kPermalockParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::BlockPermalockAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_BlockPermalock",
-                           sim::kOpBlockPermalock, sim::pointeeName(sim::kPermalockParams), tag);
+                           sim::kOpBlockPermalock, sim::pointeeName(sim::layout::BlockPermalockAccessParams()), tag);
 }
 
 int32_t RFID_NXPChangeConfig(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                              void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_NXPChangeConfig", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_NXPChangeConfig", sim::kOpNxpChangeConfig, nullptr, tag);
 }
 
 int32_t RFID_ImpinjQTRead(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ImpinjQTRead", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtReadParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::QtReadAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_ImpinjQTRead", sim::kOpQtRead, nullptr, tag);
 }
 
 int32_t RFID_Authenticate(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Authenticate", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kAuthenticateParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::AuthenticateAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Authenticate", sim::kOpAuthenticate, nullptr, tag);
 }
 
 int32_t RFID_Untraceable(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                          void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Untraceable", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kUntraceableParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::UntraceableAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Untraceable", sim::kOpUntraceable, nullptr, tag);
 }
 
 int32_t RFID_ReadBuffer(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_ReadBuffer", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kReadBufferParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::ReadBufferAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_ReadBuffer", sim::kOpReadBuffer, nullptr, tag);
 }
 
 int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                     void* antenna, void* tag, void* reserved) {
   ApiCall call("RFID_Crypto", handle, tagID, tagIDLength, params, filter, antenna, tag, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kCryptoParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::CryptoAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Crypto", sim::kOpCrypto, nullptr, tag);
 }
 
@@ -238,64 +182,64 @@ int32_t RFID_Crypto(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, 
 int32_t RFID_Write(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                    void* antenna, void* reserved) {
   ApiCall call("RFID_Write", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
-  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, sim::pointeeName(sim::kWriteParams), nullptr);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::WriteAccessParams(), filter, antenna);
+  return sim::answerAccess(call, handle, "RFID_Write", sim::kOpWrite, sim::pointeeName(sim::layout::WriteAccessParams()), nullptr);
 }
 
 int32_t RFID_BlockWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kWriteParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::WriteAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_BlockWrite",
-                           sim::kOpBlockWrite, sim::pointeeName(sim::kWriteParams), nullptr);
+                           sim::kOpBlockWrite, sim::pointeeName(sim::layout::WriteAccessParams()), nullptr);
 }
 
 int32_t RFID_BlockErase(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                         void* antenna, void* reserved) {
   ApiCall call("RFID_BlockErase", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kBlockEraseParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::BlockEraseAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_BlockErase", sim::kOpBlockErase, nullptr, nullptr);
 }
 
 int32_t RFID_Lock(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Lock", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kLockParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::LockAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Lock", sim::kOpLock, nullptr, nullptr);
 }
 
 int32_t RFID_Kill(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                   void* antenna, void* reserved) {
   ApiCall call("RFID_Kill", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kKillParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::KillAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Kill", sim::kOpKill, nullptr, nullptr);
 }
 
 int32_t RFID_Recommission(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                           void* antenna, void* reserved) {
   ApiCall call("RFID_Recommission", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kRecommissionParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::RecommissionAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_Recommission", sim::kOpRecommission, nullptr, nullptr);
 }
 
 int32_t RFID_NXPReadProtect(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                             void* antenna, void* reserved) {
   ApiCall call("RFID_NXPReadProtect", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_NXPReadProtect", sim::kOpNxpReadProtect, nullptr, nullptr);
 }
 
 int32_t RFID_NXPSetEAS(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                        void* antenna, void* reserved) {
   ApiCall call("RFID_NXPSetEAS", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kNxpParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::NxpAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_NXPSetEAS", sim::kOpNxpSetEas, nullptr, nullptr);
 }
 
 int32_t RFID_ImpinjQTWrite(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* filter,
                            void* antenna, void* reserved) {
   ApiCall call("RFID_ImpinjQTWrite", handle, tagID, tagIDLength, params, filter, antenna, reserved);
-  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::kQtWriteParams, filter, antenna);
+  sim::captureTagOperation(call, tagID, tagIDLength, params, sim::layout::QtWriteAccessParams(), filter, antenna);
   return sim::answerAccess(call, handle, "RFID_ImpinjQTWrite", sim::kOpQtWrite, nullptr, nullptr);
 }
 
@@ -306,36 +250,36 @@ int32_t RFID_WriteAccessPassword(int64_t handle, const uint8_t* tagID, uint32_t 
                                  void* reserved) {
   ApiCall call("RFID_WriteAccessPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerAccess(call, handle, "RFID_WriteAccessPassword",
-                           sim::kOpWriteAccessPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
+                           sim::kOpWriteAccessPassword, sim::pointeeName(sim::layout::WriteFieldAccessParams()), nullptr);
 }
 
 int32_t RFID_WriteKillPassword(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
                                void* reserved) {
   ApiCall call("RFID_WriteKillPassword", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerAccess(call, handle, "RFID_WriteKillPassword",
-                           sim::kOpWriteKillPassword, sim::pointeeName(sim::kWriteFieldParams), nullptr);
+                           sim::kOpWriteKillPassword, sim::pointeeName(sim::layout::WriteFieldAccessParams()), nullptr);
 }
 
 int32_t RFID_WriteTagID(int64_t handle, const uint8_t* tagID, uint32_t tagIDLength, void* params, void* antenna,
                         void* reserved) {
   ApiCall call("RFID_WriteTagID", handle, tagID, tagIDLength, params, antenna, reserved);
   call.blob("tagID", tagID, tagIDLength);
-  sim::captureParams(call, "params", params, sim::kWriteFieldParams);
+  sim::captureParams(call, "params", params, sim::layout::WriteFieldAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerAccess(call, handle, "RFID_WriteTagID",
-                           sim::kOpWriteTagId, sim::pointeeName(sim::kWriteFieldParams), nullptr);
+                           sim::kOpWriteTagId, sim::pointeeName(sim::layout::WriteFieldAccessParams()), nullptr);
 }
 
 // The one chip command without a tag ID.
 int32_t RFID_NXPResetReadProtect(int64_t handle, void* params, void* antenna, void* reserved) {
   ApiCall call("RFID_NXPResetReadProtect", handle, params, antenna, reserved);
-  sim::captureParams(call, "params", params, sim::kNxpParams);
+  sim::captureParams(call, "params", params, sim::layout::NxpAccessParams());
   sim::captureAntennaInfo(call, "antennaInfo", antenna);
   return sim::answerAccess(call, handle, "RFID_NXPResetReadProtect", sim::kOpNxpResetReadProtect, nullptr, nullptr);
 }

@@ -9,6 +9,7 @@
 #include "reader/sessions.h"
 #include "reader/status.h"
 #include "reader/tag_records.h"
+#include "replay/replay.h"
 
 namespace sim {
 namespace {
@@ -55,6 +56,7 @@ uint32_t bufferedRecords(Reader& reader, uint32_t max, bool take, void** records
 }
 
 int32_t getReadTag(const CallOutcome& call, void* tag) {
+  if (replay::active()) return call.status;  // the record was written from the trace
   if (!call.reader) return call.status;
   if (!isTagRecord(tag)) return call.refused();  // NULL included
   if (writeScriptedOutput("RFID_GetReadTag", tag, kTagRecordSize)) return call.status;
@@ -95,6 +97,7 @@ int32_t RFID_GetReadTag(int64_t handle, void* tag) {
 int32_t rfid_GetReadTags(int64_t handle, uint32_t max, void** records, uint32_t* count) {
   Recorder rec("rfid_GetReadTags", {raw(handle), raw(max), raw(records), raw(count)});
   const CallOutcome call = finishCall(rec, handle);
+  if (replay::active()) return call.status;  // the records were written from the trace
   if (!call.reader) return call.status;
   if (records == nullptr || count == nullptr) return call.refused();
   std::vector<uint8_t> scripted;

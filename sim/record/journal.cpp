@@ -6,14 +6,11 @@
 #include <deque>
 #include <mutex>
 
-#include "record/safe_memory.h"
+#include "record/blob_set.h"
+#include "replay/replay.h"
 
 namespace sim {
 namespace {
-
-// No record the library sends comes near this; a larger size is a garbage
-// length field and is recorded as a fault rather than allocated.
-constexpr size_t kMaxBlobBytes = size_t{64} << 20;
 
 struct Scripts {
   std::map<std::string, std::deque<int32_t>> queued;
@@ -50,19 +47,6 @@ Journal& journal() {
 const Blob& absentBlob() {
   static const Blob absent;
   return absent;
-}
-
-Blob copyBlob(const void* p, size_t n) {
-  Blob blob;
-  if (p == nullptr) return blob;
-  blob.present = true;
-  if (n <= kMaxBlobBytes) {
-    blob.bytes.resize(n);
-    if (safeCopy(blob.bytes.data(), p, n)) return blob;
-  }
-  blob.bytes.clear();
-  blob.faulted = true;
-  return blob;
 }
 
 // Position of the call of fn at index (negative: from the end), or -1.
@@ -109,13 +93,7 @@ void Recorder::blob(const std::string& name, const void* p, size_t n) {
 }
 
 void Recorder::wide(const std::string& name, const wchar_t* s, size_t maxChars) {
-  Blob blob;
-  if (s != nullptr) {
-    blob.present = true;
-    blob.faulted = !safeWide(s, maxChars, &blob.bytes);
-    if (blob.faulted) blob.bytes.clear();
-  }
-  call_.blobs[name] = std::move(blob);
+  call_.blobs[name] = copyWide(s, maxChars);
 }
 
 const Blob& Recorder::captured(const std::string& name) const {
@@ -133,6 +111,10 @@ bool Recorder::finish(int32_t* status) {
   *status = 0;
   if (done_) return false;  // one entry, one status
   done_ = true;
+  if (replay::answer(call_, status)) {
+    appendCall(call_);
+    return true;
+  }
   bool scripted = scriptedStatus(call_.fn, status);
   appendCall(call_);
   return scripted;

@@ -34,8 +34,18 @@ rm -rf "$kit"
 cmake --install "$build" --component devkit --prefix "$kit" >/dev/null
 files=$(cd "$kit" && find . -type f | sed 's|^\./||' | sort)
 for file in share/java/orla-sdk.jar share/java/orla-sim.jar lib/orla-sim/libhalyard.so \
-            lib/orla-sim/liborlajni.so share/doc/orla-jni/README.md; do
+            lib/orla-sim/liborlajni.so share/doc/orla-jni/README.md bin/orla-check bin/orla-trace \
+            lib/orla-trace/libhalyard-trace.so; do
   grep -qx "$file" <<<"$files" || fail "developer kit without $file: $files"
 done
-[ "$(grep -c 'libhalyard' <<<"$files")" -eq 1 ] || fail "more than one simulator in the kit: $files"
+[ "$(grep -c 'libhalyard\.so$' <<<"$files")" -eq 1 ] || fail "more than one simulator in the kit: $files"
 echo "developer kit: $(wc -l <<<"$files") files"
+
+tools=$work/fieldtools
+rm -rf "$tools"
+cmake --install "$build" --component fieldtools --prefix "$tools" >/dev/null
+files=$(cd "$tools" && find . -type f | sed 's|^\./||' | sort)
+expected=$(printf '%s\n' opt/orla-tools/bin/orla-check opt/orla-tools/bin/orla-trace \
+  opt/orla-tools/lib/libhalyard-trace.so | sort)
+[ "$files" = "$expected" ] || fail "field tools: $files; expected: $expected"
+echo "field tools: $files"

@@ -1,0 +1,360 @@
+#include "replay/replay.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <mutex>
+#include <vector>
+
+#include "reader/tag_read.h"
+#include "reader/tag_records.h"
+#include "record/api_functions.h"
+#include "record/call_capture.h"
+#include "record/json.h"
+#include "record/record_layouts.h"
+#include "record/trace_line.h"
+
+namespace sim::replay {
+namespace {
+
+using api::Arg;
+using api::ArgSpec;
+using api::FunctionSpec;
+using layout::Field;
+using layout::Kind;
+using layout::Record;
+using trace::TracedCall;
+
+struct State {
+  std::mutex mutex;
+  bool started = false;
+  bool fromEnvironment = false;
+  std::vector<TracedCall> calls;
+  size_t next = 0;
+  std::string divergence;
+};
+
+State& state() {
+  static State* instance = new State;
+  return *instance;
+}
+
+// The bytes of a blob that a field covers, by the field's path.
+struct Span {
+  size_t offset;
+  size_t size;
+  std::string path;
+  bool pointer;
+};
+
+using Spans = std::map<std::string, std::vector<Span>>;
+
+void CollectSpans(const Record& record, const std::string& path, const std::string& blobName, size_t base,
+                  const std::map<std::string, Blob>& blobs, Spans* spans) {
+  auto it = blobs.find(blobName);
+  static const std::vector<uint8_t> none;
+  const std::vector<uint8_t>& bytes = it == blobs.end() ? none : it->second.bytes;
+  for (const Field& field : record.fields) {
+    if (!layout::Applies(field, bytes, base)) continue;
+    const size_t at = base + field.offset;
+    const std::string fieldPath = path + "." + field.name;
+    if (field.kind == Kind::Embedded) {
+      for (size_t i = 0; i < field.count; ++i) {
+        CollectSpans(*field.record, path + "." + layout::EntryName(field, i), blobName, at + i * field.record->size,
+                     blobs, spans);
+      }
+      continue;
+    }
+    size_t size = layout::ScalarBytes(field.kind);
+    if (field.kind == Kind::Bytes) size = field.count;
+    if (field.kind == Kind::Wide) size = field.count * 4;
+    (*spans)[blobName].push_back({at, size, fieldPath, field.kind == Kind::Pointer});
+    if (field.kind == Kind::Pointer && field.record != nullptr) {
+      CollectSpans(*field.record, fieldPath, fieldPath, 0, blobs, spans);
+    }
+  }
+}
+
+Spans SpansOf(const FunctionSpec& fn, const std::map<std::string, Blob>& blobs) {
+  Spans spans;
+  for (const ArgSpec& arg : fn.args) {
+    if (arg.kind == Arg::TagList || arg.kind == Arg::TagArray) {
+      auto it = blobs.find(arg.name);
+      const size_t n = it == blobs.end() ? 0 : it->second.bytes.size() / 8;
+      for (size_t i = 0; i < n; ++i) {
+        spans[arg.name].push_back({i * 8, 8, api::TagEntryName(arg, i), true});
+        CollectSpans(*arg.record, api::TagEntryName(arg, i), api::TagEntryName(arg, i), 0, blobs, &spans);
+      }
+    } else if (arg.record != nullptr) {
+      CollectSpans(*arg.record, arg.name, arg.name, 0, blobs, &spans);
+    }
+  }
+  return spans;
+}
+
+const Span* SpanAt(const Spans& spans, const std::string& blob, size_t byte) {
+  auto it = spans.find(blob);
+  if (it == spans.end()) return nullptr;
+  for (const Span& span : it->second) {
+    if (byte >= span.offset && byte < span.offset + span.size) return &span;
+  }
+  return nullptr;
+}
+
+std::string Byte(const std::vector<uint8_t>& bytes, size_t i) {
+  if (i >= bytes.size()) return "none";
+  char text[8];
+  std::snprintf(text, sizeof text, "%02x", bytes[i]);
+  return text;
+}
+
+// The first difference of a captured blob from the traced one, or "".
+std::string BlobDifference(const std::string& name, const Blob& got, const Blob& traced, const Spans& spans) {
+  if (got.present != traced.present) {
+    return name + (got.present ? " is given, the trace has NULL" : " is NULL, the trace has it given");
+  }
+  if (got.faulted != traced.faulted) return name + (got.faulted ? " cannot be read" : " can be read, the trace could not");
+  const size_t n = std::max(got.bytes.size(), traced.bytes.size());
+  for (size_t i = 0; i < n; ++i) {
+    const Span* span = SpanAt(spans, name, i);
+    if (span != nullptr && span->pointer) continue;
+    // Padding and bytes the library leaves as it found them (what no field
+    // of a described record covers) are not the library's to repeat.
+    if (span == nullptr && spans.count(name) != 0) continue;
+    if (i < got.bytes.size() && i < traced.bytes.size() && got.bytes[i] == traced.bytes[i]) continue;
+    std::string where = name + " byte " + std::to_string(i);
+    if (span != nullptr) where += " (field " + span->path + ")";
+    return where + " is " + Byte(got.bytes, i) + ", the trace has " + Byte(traced.bytes, i);
+  }
+  return "";
+}
+
+// Values the reader handed out, not the caller's to repeat exactly.
+bool HandedOut(const ArgSpec& arg) {
+  return std::strcmp(arg.name, "handle") == 0 || std::strcmp(arg.name, "event") == 0 ||
+         std::strcmp(arg.name, "passThrough") == 0;
+}
+
+// A wide string is compared as text: up to its terminator, however much of
+// the buffer behind it was captured.
+bool IsWideArg(const FunctionSpec& fn, const std::string& name) {
+  for (const ArgSpec& arg : fn.args) {
+    if (arg.kind == Arg::Wide && name == arg.name) return true;
+  }
+  return false;
+}
+
+Blob WideText(Blob blob) {
+  for (size_t i = 0; i + 4 <= blob.bytes.size(); i += 4) {
+    if (layout::UnsignedAt(blob.bytes, i, 4) == 0) {
+      blob.bytes.resize(i);
+      break;
+    }
+  }
+  return blob;
+}
+
+bool operator!=(const Blob& a, const Blob& b) {
+  return a.present != b.present || a.faulted != b.faulted || a.bytes != b.bytes;
+}
+
+std::string Difference(const Call& call, const TracedCall& traced) {
+  if (call.fn != traced.function) return "the trace has " + traced.function + " here";
+  const FunctionSpec* fn = api::FindFunction(call.fn);
+  if (fn == nullptr) return "";
+  for (size_t i = 0; i < fn->args.size() && i < call.args.size() && i < traced.args.size(); ++i) {
+    const ArgSpec& arg = fn->args[i];
+    if (arg.kind != Arg::Int || HandedOut(arg)) continue;
+    const uint64_t got = api::UnsignedValue(arg, call.args[i]);
+    const uint64_t want = api::UnsignedValue(arg, traced.args[i].value);
+    if (got != want) {
+      return std::string("argument ") + arg.name + " is " + std::to_string(api::SignedValue(arg, got)) +
+             ", the trace has " + std::to_string(api::SignedValue(arg, want));
+    }
+  }
+  const Spans spans = SpansOf(*fn, traced.in);
+  for (const auto& [name, blob] : traced.in) {
+    auto got = call.blobs.find(name);
+    if (got == call.blobs.end()) continue;  // not captured by the simulator
+    if (IsWideArg(*fn, name)) {
+      if (WideText(got->second) != WideText(blob)) return name + " differs from the traced text";
+      continue;
+    }
+    std::string difference = BlobDifference(name, got->second, blob, spans);
+    if (!difference.empty()) return difference;
+  }
+  return "";
+}
+
+template <class T>
+T FieldValue(const Blob& blob, const char* name) {
+  for (const Field& field : layout::TagData().fields) {
+    if (std::strcmp(field.name, name) == 0) {
+      return static_cast<T>(layout::UnsignedAt(blob.bytes, field.offset, sizeof(T)));
+    }
+  }
+  return T{};
+}
+
+SystemTime TimeAt(const Blob& blob, size_t offset) {
+  SystemTime time{};
+  for (size_t i = 0; i < time.size(); ++i) time[i] = static_cast<uint16_t>(layout::UnsignedAt(blob.bytes, offset + 2 * i, 2));
+  return time;
+}
+
+// A traced tag record as a read of the simulated reader.
+TagRead TracedRead(const std::map<std::string, Blob>& out, const std::string& name) {
+  auto blob = [&](const std::string& n) -> const Blob& {
+    static const Blob absent;
+    auto it = out.find(n);
+    return it == out.end() ? absent : it->second;
+  };
+  const Blob& record = blob(name);
+  TagRead read;
+  read.epc = blob(name + ".pTagID").bytes;
+  read.pc = FieldValue<uint16_t>(record, "PC");
+  read.xpc = FieldValue<uint32_t>(record, "XPC");
+  read.crc = FieldValue<uint16_t>(record, "CRC");
+  read.antenna = FieldValue<uint16_t>(record, "antennaID");
+  read.peakRssi = FieldValue<int8_t>(record, "peakRSSI");
+  read.channelIndex = FieldValue<int16_t>(record, "channelIndex");
+  read.phase = FieldValue<int16_t>(record, "phaseInfo");
+  read.seenCount = FieldValue<uint16_t>(record, "tagSeenCount");
+  read.firstSeen.utc = TimeAt(record, 40);
+  read.lastSeen.utc = TimeAt(record, 56);
+  const Blob& location = blob(name + ".pLocationInfo");
+  read.hasLocation = location.present && location.bytes.size() >= 2;
+  if (read.hasLocation) read.relativeDistance = static_cast<int16_t>(layout::UnsignedAt(location.bytes, 0, 2));
+  read.memoryBankData = blob(name + ".pMemoryBankData").bytes;
+  return read;
+}
+
+void WriteOutputs(const Call& call, const TracedCall& traced) {
+  const FunctionSpec* fn = api::FindFunction(call.fn);
+  if (fn == nullptr) return;
+  for (size_t i = 0; i < fn->args.size() && i < call.args.size(); ++i) {
+    const ArgSpec& arg = fn->args[i];
+    auto out = traced.out.find(arg.name);
+    void* dst = reinterpret_cast<void*>(call.args[i]);
+    if (dst == nullptr || out == traced.out.end() || !out->second.present) continue;
+    if (arg.kind == Arg::InOut && arg.record == nullptr) {
+      std::memcpy(dst, out->second.bytes.data(), std::min(arg.bytes, out->second.bytes.size()));
+    } else if (arg.kind == Arg::InOut && arg.record == &layout::TagData() && isTagRecord(dst)) {
+      fillTagRecord(dst, TracedRead(traced.out, arg.name), RecordFill());
+    } else if (arg.kind == Arg::TagArray) {
+      const size_t n = out->second.bytes.size() / sizeof(void*);
+      auto** records = static_cast<void**>(dst);
+      for (size_t k = 0; k < n; ++k) {
+        records[k] = allocateTagRecord(static_cast<int64_t>(call.args[0]));
+        if (records[k] != nullptr) fillTagRecord(records[k], TracedRead(traced.out, api::TagEntryName(arg, k)), RecordFill());
+      }
+    }
+  }
+}
+
+bool Load(const std::string& path, std::vector<TracedCall>* calls, std::string* error) {
+  std::ifstream in(path);
+  if (!in) {
+    *error = "cannot open " + path;
+    return false;
+  }
+  size_t number = 0;
+  for (std::string line; std::getline(in, line);) {
+    ++number;
+    if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
+    json::ParseResult parsed = json::Parse(line);
+    TracedCall call;
+    std::string why;
+    if (!parsed.value || !trace::FromJson(*parsed.value, &call, &why)) {
+      *error = path + ":" + std::to_string(number) + ": " + (parsed.value ? why : parsed.error);
+      return false;
+    }
+    calls->push_back(std::move(call));
+  }
+  return true;
+}
+
+void Report(const std::string& text) { std::fprintf(stderr, "halyard-sim replay: %s\n", text.c_str()); }
+
+// HALYARD_SIM_REPLAY, taken at the first call.
+void StartFromEnvironment(State& s) {
+  if (s.fromEnvironment) return;
+  s.fromEnvironment = true;
+  const char* path = std::getenv("HALYARD_SIM_REPLAY");
+  if (path == nullptr || *path == '\0') return;
+  std::string error;
+  s.started = true;
+  if (!Load(path, &s.calls, &error)) {
+    s.divergence = "cannot replay: " + error;
+    Report(s.divergence);
+  }
+}
+
+}  // namespace
+
+bool active() {
+  State& s = state();
+  std::lock_guard<std::mutex> lock(s.mutex);
+  StartFromEnvironment(s);
+  return s.started;
+}
+
+bool start(const std::string& path, std::string* error) {
+  std::vector<TracedCall> calls;
+  if (!Load(path, &calls, error)) return false;
+  State& s = state();
+  std::lock_guard<std::mutex> lock(s.mutex);
+  s.fromEnvironment = true;
+  s.started = true;
+  s.calls = std::move(calls);
+  s.next = 0;
+  s.divergence.clear();
+  return true;
+}
+
+void stop() {
+  State& s = state();
+  std::lock_guard<std::mutex> lock(s.mutex);
+  s.fromEnvironment = true;
+  s.started = false;
+  s.calls.clear();
+  s.divergence.clear();
+}
+
+std::string divergence() {
+  State& s = state();
+  std::lock_guard<std::mutex> lock(s.mutex);
+  return s.divergence;
+}
+
+bool answer(const Call& call, int32_t* status) {
+  State& s = state();
+  std::lock_guard<std::mutex> lock(s.mutex);
+  StartFromEnvironment(s);
+  if (!s.started) return false;
+  *status = kReplayDiverged;
+  if (!s.divergence.empty()) return true;
+  const size_t number = s.next + 1;
+  if (s.next >= s.calls.size()) {
+    s.divergence = "call " + std::to_string(number) + " (" + call.fn + "): the trace ends after " +
+                   std::to_string(s.calls.size()) + " calls";
+    Report(s.divergence);
+    return true;
+  }
+  const TracedCall& traced = s.calls[s.next++];
+  const std::string difference = Difference(call, traced);
+  if (!difference.empty()) {
+    s.divergence = "call " + std::to_string(number) + " (" + call.fn + ") differs from the trace: " + difference;
+    Report(s.divergence);
+    return true;
+  }
+  WriteOutputs(call, traced);
+  // Handles and records the simulator hands out stay its own; statuses come from the trace.
+  const api::FunctionSpec* fn = api::FindFunction(call.fn);
+  *status = fn == nullptr || fn->result == api::Result::Status ? static_cast<int32_t>(traced.result) : 0;
+  return true;
+}
+
+}  // namespace sim::replay
