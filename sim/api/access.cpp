@@ -19,6 +19,7 @@
 #include "reader/triggers.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {

@@ -27,8 +27,11 @@ struct CallOutcome {
 
 // Finishes the recording and looks the reader up. `readable` false (a
 // record whose memory could not be captured) gives kInvalidParam unless a
-// status was scripted or the handle is unknown.
-CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable = true);
+// status was scripted or the handle is unknown; so does a refusal (a
+// request beyond the reader's capabilities, reader/capabilities.h) or an
+// antenna selection captured under "antennaInfo" that names an antenna the
+// reader does not have. The refusal becomes the reader's last error.
+CallOutcome finishCall(Recorder& rec, int64_t handle, bool readable = true, std::string refusal = {});
 
 // Writes fn's scripted output into the caller's n-byte record (zeroing what
 // the script does not cover), or else the n bytes the call normally returns.

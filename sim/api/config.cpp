@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "reader/antenna_settings.h"
+#include "reader/capabilities.h"
 #include "record/api_call.h"
 #include "reader/radio_io_settings.h"
 #include "reader/admin.h"
@@ -84,6 +85,8 @@ int32_t RFID_GetReaderCapsW(int64_t handle, void* caps) {
 int32_t RFID_SetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t first, uint16_t second,
                               uint16_t third) {
   ApiCall call("RFID_SetAntennaConfig", handle, antennaID, first, second, third);
+  call.refuse(sim::antennaProblem(antennaID));
+  call.refuse(sim::antennaIndicesProblem(first, second, third));
   const int32_t status = call.finish();
   if (status == sim::kSuccess) sim::keepAntennaIndices(handle, antennaID, first, second, third);
   return status;
@@ -92,6 +95,7 @@ int32_t RFID_SetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t first
 int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* first, uint16_t* second,
                               uint16_t* third) {
   ApiCall call("RFID_GetAntennaConfig", handle, antennaID, first, second, third);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{first, 2, "first"}, {second, 2, "second"}, {third, 2, "third"}},
                sim::antennaIndicesOf(handle, antennaID));
   return call.finish();
@@ -99,6 +103,7 @@ int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* firs
 
 int32_t RFID_GetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
   ApiCall call("RFID_GetAntennaRfConfig", handle, antennaID, config);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{config, sim::kAntennaRfConfigBytes, "config"}}, sim::antennaRfConfigOf(handle, antennaID));
   return call.finish();
 }
@@ -108,6 +113,8 @@ int32_t RFID_SetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config
   ApiCall call("RFID_SetAntennaRfConfig", handle, antennaID, config);
   call.blob("config", config, sim::kAntennaRfConfigBlockBytes);
   call.require(config);
+  call.refuse(sim::antennaProblem(antennaID));
+  call.refuse(sim::rfConfigProblem(call.captured("config")));
   const int32_t status = call.finish();
   const sim::Blob& block = call.captured("config");
   if (status == sim::kSuccess && block.present && !block.faulted) {
@@ -135,6 +142,7 @@ int32_t RFID_GetCableLossCompensation(int64_t handle, void* record) {
 
 int32_t RFID_GetPhysicalAntennaProperties(int64_t handle, uint16_t antennaID, uint8_t* flag, int32_t* value) {
   ApiCall call("RFID_GetPhysicalAntennaProperties", handle, antennaID, flag, value);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{flag, 1, "flag"}, {value, 4, "value"}});
   return call.finish();
 }
@@ -154,12 +162,14 @@ int32_t RFID_GetAntennaMode(int64_t handle, uint32_t* mode) {
 
 int32_t RFID_GetReadPointStatus(int64_t handle, uint16_t antennaID, uint8_t* status) {
   ApiCall call("RFID_GetReadPointStatus", handle, antennaID, status);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{status, 1, "status"}}, sim::readPointStatusOf(handle, antennaID));
   return call.finish();
 }
 
 int32_t RFID_EnableReadPoint(int64_t handle, uint16_t antennaID, uint8_t enable) {
   ApiCall call("RFID_EnableReadPoint", handle, antennaID, enable);
+  call.refuse(sim::antennaProblem(antennaID));
   const int32_t status = call.finish();
   if (status == sim::kSuccess) sim::keepReadPointEnabled(handle, antennaID, enable != 0);
   return status;
@@ -172,12 +182,15 @@ int32_t RFID_EnableReadPoint(int64_t handle, uint16_t antennaID, uint8_t enable)
 
 int32_t RFID_SetRFMode(int64_t handle, uint16_t antennaID, uint32_t first, uint32_t second) {
   ApiCall call("RFID_SetRFMode", handle, antennaID, first, second);
+  call.refuse(sim::antennaProblem(antennaID));
+  call.refuse(sim::rfModeProblem(first));
   return sim::keepRadioIo(handle, call.finish(),
                           [&](sim::RadioIoSettings& kept) { kept.rfMode[antennaID] = {first, second}; });
 }
 
 int32_t RFID_GetRFMode(int64_t handle, uint16_t antennaID, uint32_t* first, uint32_t* second) {
   ApiCall call("RFID_GetRFMode", handle, antennaID, first, second);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{first, 4, "first"}, {second, 4, "second"}}, sim::keptRadioIo(handle).rfModeAnswer(antennaID));
   return call.finish();
 }
@@ -356,6 +369,7 @@ int32_t RFID_SetTimeZone(int64_t handle, uint16_t index) {
 
 int32_t RFID_GetReaderStats(int64_t handle, uint16_t antennaID, void* stats) {
   ApiCall call("RFID_GetReaderStats", handle, antennaID, stats);
+  call.refuse(sim::antennaProblem(antennaID));
   call.outputs({{stats, sim::kReaderStatsBytes, "stats"}});
   return call.finish();
 }

@@ -10,6 +10,7 @@
 #include "reader/antenna_selection.h"
 #include "reader/last_error.h"
 #include "reader/status.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {
@@ -19,6 +20,7 @@ OperationPlan planFor(OperationKind kind, const Recorder& rec) {
   plan.kind = kind;
   plan.antennas = antennaList(capturedOf(rec), "antennaInfo");
   plan.triggers = readTriggers(rec.captured("triggerInfo"));
+  plan.triggers.reports = readTagReportPlan(rec, "triggerInfo");
   return plan;
 }
 

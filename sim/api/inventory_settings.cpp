@@ -6,6 +6,7 @@
 #include "record/captures.h"
 #include "api/c_api.h"
 #include "api/call_outcome.h"
+#include "reader/capabilities.h"
 #include "reader/last_error.h"
 #include "reader/status.h"
 
@@ -13,6 +14,11 @@ namespace sim {
 namespace {
 
 bool validAntenna(uint16_t antenna) { return antenna >= 1 && antenna <= kAntennaCount; }
+
+// Antenna 0 stands for every antenna where a pre-filter is added or deleted.
+std::string preFilterAntennaProblem(uint16_t antenna) {
+  return antenna == 0 ? std::string() : antennaProblem(antenna);
+}
 
 // `usable` false: a record or the index could not be read, so the index is
 // not written either.
@@ -54,12 +60,12 @@ int32_t RFID_AddPreFilter(int64_t handle, uint16_t antenna, void* preFilter, uin
   rec.blob("index", index, sizeof *index);  // what the caller preset
   usable = usable && index != nullptr && !rec.captured("index").faulted;
   const PreFilterRule rule = readPreFilter(antenna, capturedOf(rec), "preFilter");
-  return addPreFilter(finishCall(rec, handle, usable), antenna, rule, usable, index);
+  return addPreFilter(finishCall(rec, handle, usable, preFilterAntennaProblem(antenna)), antenna, rule, usable, index);
 }
 
 int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
   Recorder rec("RFID_DeletePreFilter", {raw(handle), raw(antenna), raw(index)});
-  const CallOutcome call = finishCall(rec, handle);
+  const CallOutcome call = finishCall(rec, handle, true, preFilterAntennaProblem(antenna));
   if (!call.proceeds()) return call.status;
   return rememberFailure(handle, deletePreFilter(*call.reader, antenna, index), "RFID_DeletePreFilter",
                          "antenna " + std::to_string(antenna) + " has no pre-filter " + std::to_string(index));
@@ -97,7 +103,7 @@ int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* contr
   Recorder rec("RFID_GetSingulationControl", {raw(handle), raw(antenna), raw(control)});
   rec.blob("singulationControl", control, sizeof(SingulationControl::raw));  // as preset
   const bool usable = control != nullptr && !rec.captured("singulationControl").faulted;
-  const CallOutcome call = finishCall(rec, handle, usable);
+  const CallOutcome call = finishCall(rec, handle, usable, antennaProblem(antenna));
   if (!usable || !validAntenna(antenna)) return call.refused();
   if (!call.reader) return call.status;
   SingulationControl kept;
@@ -113,7 +119,7 @@ int32_t RFID_SetSingulationControl(int64_t handle, uint16_t antenna, void* contr
   Recorder rec("RFID_SetSingulationControl", {raw(handle), raw(antenna), raw(control)});
   rec.blob("singulationControl", control, sizeof(SingulationControl::raw));
   const Blob& captured = rec.captured("singulationControl");
-  const CallOutcome call = finishCall(rec, handle, !captured.faulted);
+  const CallOutcome call = finishCall(rec, handle, !captured.faulted, antennaProblem(antenna));
   if (!call.proceeds()) return call.status;
   if (!captured.present || !validAntenna(antenna)) return kInvalidParam;
   SingulationControl kept;

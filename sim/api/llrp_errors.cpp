@@ -6,6 +6,7 @@
 #include "reader/last_error.h"
 #include "record/captured_fields.h"
 #include "reader/session_store.h"
+#include "reader/last_error.h"
 
 namespace sim {
 namespace {

@@ -7,7 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "reader/capabilities.h"
 #include "reader/event_signals.h"
+#include "reader/field_settings.h"
+#include "reader/scenario.h"
 #include "reader/state.h"
 #include "reader/population.h"
 #include "reader/tag_records.h"
@@ -97,6 +100,72 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_useUpTime(JNIEnv* 
   if (!r) return;
   std::lock_guard<std::mutex> lock(r->mutex);
   r->upTimeForm = upTime != JNI_FALSE;
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_checkCapabilities(JNIEnv*, jclass, jboolean on) {
+  sim::setCapabilityChecks(on != JNI_FALSE ? sim::CapabilityChecks::kOn : sim::CapabilityChecks::kOff);
+}
+
+JNIEXPORT jstring JNICALL Java_com_kovra_rfid_orla_sim_SimReader_loadScenario(JNIEnv* env, jclass, jstring scenario) {
+  const std::string problem = sim::loadScenario(text(env, scenario));
+  return problem.empty() ? nullptr : env->NewStringUTF(problem.c_str());
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_readRate(JNIEnv* env, jclass, jint perSecond) {
+  if (perSecond < 0) {
+    throwIllegalArgument(env, "a read rate cannot be negative: " + std::to_string(perSecond));
+    return;
+  }
+  sim::setReadRate(static_cast<uint32_t>(perSecond));
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_fastMode(JNIEnv*, jclass, jboolean fast) {
+  sim::setFastMode(fast != JNI_FALSE);
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_seed(JNIEnv* env, jclass, jlong handle, jlong seed) {
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return;
+  std::lock_guard<std::mutex> lock(r->mutex);
+  r->replay(static_cast<uint64_t>(seed));
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_connectAntenna(JNIEnv* env, jclass, jlong handle,
+                                                                            jint antenna, jboolean connected) {
+  if (antenna < 1 || antenna > sim::kAntennaCount) {
+    throwIllegalArgument(env, "no antenna " + std::to_string(antenna));
+    return;
+  }
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return;
+  {
+    std::lock_guard<std::mutex> lock(r->mutex);
+    if (connected != JNI_FALSE) {
+      r->field.disconnected.erase(static_cast<uint16_t>(antenna));
+    } else {
+      r->field.disconnected.insert(static_cast<uint16_t>(antenna));
+    }
+  }
+  std::vector<uint8_t> data(16, 0);
+  sim::store<int16_t>(data.data(), 0, static_cast<int16_t>(antenna));
+  sim::store<int32_t>(data.data(), 4, connected != JNI_FALSE ? 1 : 0);
+  sim::raiseEvent(handle, sim::kAntennaEvent, std::move(data));
+}
+
+JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_setTemperature(JNIEnv* env, jclass, jlong handle,
+                                                                            jint celsius) {
+  sim::ReaderPtr r = reader(env, handle);
+  if (!r) return;
+  const int level = celsius >= 70 ? 2 : celsius >= 60 ? 1 : 0;
+  {
+    std::lock_guard<std::mutex> lock(r->mutex);
+    if (level == r->field.temperatureLevel) return;
+    r->field.temperatureLevel = level;
+  }
+  std::vector<uint8_t> data(16, 0);
+  sim::store<int32_t>(data.data(), 4, celsius);
+  sim::store<int32_t>(data.data(), 8, level);
+  sim::raiseEvent(handle, sim::kTemperatureAlarmEvent, std::move(data));
 }
 
 }  // extern "C"

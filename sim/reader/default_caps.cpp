@@ -59,6 +59,11 @@ void putTable(std::vector<uint8_t>* caps, size_t at, uint16_t count, const void*
 
 }  // namespace
 
+CapsTableSizes defaultTableSizes() {
+  const CapsTables& t = capsTables();
+  return {t.powerLevels.size(), t.sensitivities.size(), t.hopFrequencies.size(), kRfModeCount};
+}
+
 std::vector<uint8_t> defaultReaderCaps() {
   const CapsTables& t = capsTables();
   std::vector<uint8_t> caps(kReaderCapsRecordBytes, 0);

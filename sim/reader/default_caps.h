@@ -14,4 +14,14 @@ constexpr size_t kReaderCapsRecordBytes = 3768;
 
 std::vector<uint8_t> defaultReaderCaps();
 
+// How many entries each table of the default capabilities holds; the
+// indices a call may use run from 0 to one less.
+struct CapsTableSizes {
+  size_t transmitPowers;
+  size_t receiveSensitivities;
+  size_t hopFrequencies;
+  size_t rfModes;
+};
+CapsTableSizes defaultTableSizes();
+
 }  // namespace sim

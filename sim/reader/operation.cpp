@@ -4,6 +4,7 @@
 
 #include "reader/antenna_selection.h"
 #include "reader/event_signals.h"
+#include "reader/field_settings.h"
 #include "reader/rounds.h"
 #include "reader/status.h"
 #include "reader/population.h"
@@ -14,7 +15,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr milliseconds kRoundInterval(25);
+constexpr milliseconds kRoundInterval(kRoundMs);
 
 // The sequence number of the first GPI change after `seen` that matches.
 std::optional<uint64_t> matchingGpiChange(const Reader& reader, const GpiCondition& wanted,
@@ -95,6 +96,7 @@ void Operation::readUntilStopTrigger(Lock& lock, uint64_t* gpiSeen, Clock::time_
   run.gpiSeen = gpiSeen;
   const bool access = plan_.kind == OperationKind::kAccessSequence;
   if (access) resetAccessCounts(reader_->handle);
+  reader_->reports.start(plan_.triggers.reports, reader_->field.fieldMs);
   raiseEvent(reader_->handle, access ? kAccessStartEvent : kInventoryStartEvent, {});
   while (!stopRequested_) {
     for (Bytes& epc : round()) run.uniqueTags.insert(std::move(epc));
@@ -116,22 +118,30 @@ bool Operation::stopTriggerReached(const Run& run) const {
 }
 
 void Operation::waitForNextRound(Lock& lock, Run& run) {
-  Clock::time_point wake = Clock::now() + kRoundInterval;
-  if (run.deadline) wake = std::min(wake, *run.deadline);
   const StopTrigger& stop = plan_.triggers.stop;
-  reader_->changed.wait_until(lock, wake, [&] {
+  auto stopping = [&] {
     if (stop.kind == StopTrigger::Kind::kGpi) {
       run.gpiStop = matchingGpiChange(*reader_, stop.gpi, *run.gpiSeen).has_value();
     }
     return stopRequested_ || run.gpiStop;
-  });
+  };
+  if (fieldSettings().fast) {  // the next round at once, but let callers in first
+    lock.unlock();
+    std::this_thread::yield();
+    lock.lock();
+    stopping();
+    return;
+  }
+  Clock::time_point wake = Clock::now() + kRoundInterval;
+  if (run.deadline) wake = std::min(wake, *run.deadline);
+  reader_->changed.wait_until(lock, wake, stopping);
 }
 
 std::vector<Bytes> Operation::round() {
   const std::shared_ptr<const Population> tags = currentPopulation();
   switch (plan_.kind) {
     case OperationKind::kInventory:
-      return inventoryRound(*reader_, *tags, antennas(), plan_.postFilter);
+      return inventoryRound(*reader_, tags, antennas(), plan_.postFilter);
     case OperationKind::kLocate:
       return locateRound(*reader_, *tags, antennas(), plan_.locateEpc);
     case OperationKind::kEasScan:

@@ -2,9 +2,9 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <mutex>
-#include <sstream>
+
+#include "reader/text_file.h"
 
 namespace sim {
 namespace {
@@ -19,15 +19,6 @@ std::shared_ptr<const Population> makeShared(Population tags) {
   return std::make_shared<const Population>(std::move(tags));
 }
 
-bool readFile(const char* path, std::string* text) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  std::stringstream content;
-  content << in.rdbuf();
-  *text = content.str();
-  return true;
-}
-
 // The start-up population, worked out once: a problem with the file is
 // reported once, not at every reset.
 std::shared_ptr<const Population> defaultPopulation() {
@@ -35,7 +26,7 @@ std::shared_ptr<const Population> defaultPopulation() {
     const char* path = std::getenv("HALYARD_SIM_TAGS");
     if (path == nullptr || *path == '\0') return makeShared(builtInPopulation());
     std::string text;
-    if (!readFile(path, &text)) {
+    if (!readTextFile(path, &text)) {
       std::fprintf(stderr, "halyard-sim: %s: cannot read the tag file; using the built-in tags\n",
                    path);
       return makeShared(builtInPopulation());

@@ -3,40 +3,18 @@
 #include <algorithm>
 
 #include "reader/event_signals.h"
+#include "reader/field.h"
 #include "reader/tag_read.h"
 
 namespace sim {
 namespace {
 
-constexpr int kRssiJitterDb = 2;
 constexpr int kChannelCount = 50;
 constexpr int kPhaseSteps = 4096;
 
 int randomIn(Reader& reader, int low, int high) {
   return std::uniform_int_distribution<int>(low, high)(reader.random);
 }
-
-SeenStamp stampNow(const Reader& reader) { return {utcNow(), reader.upTimeMicros()}; }
-
-}  // namespace
-
-TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna) {
-  TagRead read;
-  read.epc = tag.epc;
-  read.pc = tag.pc;
-  read.xpc = tag.xpc;
-  read.crc = tag.crc;
-  read.antenna = antenna;
-  const int rssi = tag.rssiByAntenna.at(antenna) + randomIn(reader, -kRssiJitterDb, kRssiJitterDb);
-  read.peakRssi = static_cast<int8_t>(std::clamp(rssi, -128, 127));
-  read.channelIndex = static_cast<int16_t>(randomIn(reader, 1, kChannelCount));
-  read.phase = static_cast<int16_t>(randomIn(reader, 0, kPhaseSteps - 1));
-  read.seenCount = 1;
-  read.firstSeen = read.lastSeen = stampNow(reader);
-  return read;
-}
-
-namespace {
 
 bool passesWarningLevel(size_t before, size_t after, uint32_t maxTags) {
   const size_t level = std::max<size_t>(1, static_cast<size_t>(maxTags) * 9 / 10);
@@ -47,20 +25,39 @@ void raiseDataless(const Reader& reader, EventType type) { raiseEvent(reader.han
 
 }  // namespace
 
-std::vector<Bytes> inventoryRound(Reader& reader, const Population& tags,
+SeenStamp stampNow(const Reader& reader) { return {utcNow(), reader.upTimeMicros()}; }
+
+int8_t jitteredRssi(Reader& reader, int8_t base) {
+  return static_cast<int8_t>(std::clamp(base + randomIn(reader, -kRssiJitterDb, kRssiJitterDb), -128, 127));
+}
+
+TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna, int8_t rssi, const SeenStamp& stamp) {
+  TagRead read;
+  read.epc = tag.epc;
+  read.pc = tag.pc;
+  read.xpc = tag.xpc;
+  read.crc = tag.crc;
+  read.antenna = antenna;
+  read.peakRssi = rssi;
+  read.channelIndex = static_cast<int16_t>(randomIn(reader, 1, kChannelCount));
+  read.phase = static_cast<int16_t>(randomIn(reader, 0, kPhaseSteps - 1));
+  read.seenCount = 1;
+  read.firstSeen = read.lastSeen = stamp;
+  return read;
+}
+
+TagRead makeRead(Reader& reader, const SimTag& tag, uint16_t antenna) {
+  return makeRead(reader, tag, antenna, jitteredRssi(reader, tag.rssiByAntenna.at(antenna)), stampNow(reader));
+}
+
+std::vector<Bytes> inventoryRound(Reader& reader, const std::shared_ptr<const Population>& tags,
                                   const std::vector<uint16_t>& antennas,
                                   const std::optional<PostFilterRule>& postFilter) {
-  const std::vector<PreFilterRule> rules = reader.preFilterRules();
-  std::vector<TagRead> reads;
-  for (uint16_t antenna : antennas) {
-    for (const SimTag& tag : tags) {
-      if (!tag.inFieldOf(antenna) || !selectedByPreFilters(rules, tag, antenna)) continue;
-      TagRead r = makeRead(reader, tag, antenna);
-      if (postFilter && !postFilter->admits(tag, r.peakRssi)) continue;
-      reads.push_back(std::move(r));
-    }
-  }
-  return bufferReads(reader, reads);
+  std::vector<TagRead> reads = fieldReads(reader, tags, antennas, postFilter);
+  std::vector<Bytes> epcs;
+  for (const TagRead& r : reads) epcs.push_back(r.epc);
+  bufferReads(reader, reader.reports.reportsOf(std::move(reads), reader.field.fieldMs, utcNow()));
+  return epcs;
 }
 
 std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads) {
@@ -75,7 +72,7 @@ std::vector<Bytes> bufferReads(Reader& reader, const std::vector<TagRead>& reads
       read.push_back(r.epc);
     }
   }
-  if (!read.empty()) raiseDataless(reader, kTagReadEvent);
+  if (reader.reports.signalDue(read.size(), reader.field.fieldMs)) raiseDataless(reader, kTagReadEvent);
   if (passesWarningLevel(before, reader.buffer.size(), maxTags)) {
     raiseDataless(reader, kBufferFullWarningEvent);
   }

@@ -1,5 +1,6 @@
 #include "reader/state.h"
 
+#include "reader/field_settings.h"
 #include "reader/operation.h"
 #include "reader/sessions.h"
 
@@ -20,8 +21,14 @@ Readers& readers() {
 
 }  // namespace
 
-Reader::Reader(int64_t h)
-    : handle(h), started(std::chrono::steady_clock::now()), random(static_cast<uint32_t>(h)) {}
+Reader::Reader(int64_t h) : handle(h), started(std::chrono::steady_clock::now()) {
+  replay(fieldSettings().seed);
+}
+
+void Reader::replay(uint64_t seed) {
+  random.seed(static_cast<uint32_t>(seed ^ (seed >> 32)));
+  field = FieldState();
+}
 
 Reader::~Reader() = default;
 

@@ -13,7 +13,9 @@
 #include <random>
 #include <vector>
 
+#include "reader/field.h"
 #include "reader/tag_buffer.h"
+#include "reader/tag_reports.h"
 #include "reader/filters.h"
 #include "reader/storage_singulation.h"
 
@@ -51,10 +53,15 @@ struct Reader {
   std::deque<GpiChange> gpiChanges;  // the latest few, oldest first
   uint64_t gpiSeq = 0;
   bool upTimeForm = false;
-  std::minstd_rand random;
+  std::minstd_rand random;  // seeded from the field settings
+  FieldState field;
+  TagReporter reports;
   std::unique_ptr<Operation> operation;
 
   uint64_t upTimeMicros() const;
+  // Plays the field again from its start with that seed: the same seed
+  // gives the same rounds.
+  void replay(uint64_t seed);
   SingulationControl singulationOf(uint16_t antenna) const;
   std::vector<PreFilterRule> preFilterRules() const;
 };

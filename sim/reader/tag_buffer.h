@@ -1,12 +1,13 @@
 // The reader's tag buffer: reads wait here, in the order first seen, until
 // the application fetches them. A tag seen again on the same antenna before
-// it was fetched updates its read (seen count, last seen, peak RSSI).
+// it was fetched updates its read (seen count, last seen, peak RSSI). A tag
+// event is never merged: each is a record of its own.
 // Not locked itself: the reader's lock guards it.
 #pragma once
 
 #include <cstddef>
 #include <list>
-#include <map>
+#include <unordered_map>
 #include <optional>
 #include <tuple>
 #include <utility>
@@ -32,9 +33,12 @@ class TagBuffer {
   // EPC, antenna, and 0 for a read without an access result, else the
   // access sequence index + 1: each operation's result is kept apart.
   using Key = std::tuple<Bytes, uint16_t, uint32_t>;
+  struct KeyHash {
+    size_t operator()(const Key& key) const;
+  };
   static Key keyOf(const TagRead& read);
   std::list<TagRead> reads_;
-  std::map<Key, std::list<TagRead>::iterator> index_;
+  std::unordered_map<Key, std::list<TagRead>::iterator, KeyHash> index_;
 };
 
 }  // namespace sim

@@ -48,6 +48,8 @@ struct TagRead {
   int16_t relativeDistance = 0;
   Bytes memoryBankData;  // none for inventory reads
   std::optional<AccessResult> access;  // none for inventory reads
+  uint32_t tagEvent = 0;  // TagEvent of reader/tag_reports.h; 0 for a plain read
+  SystemTime tagEventTime{};
 };
 
 }  // namespace sim

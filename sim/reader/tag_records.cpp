@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <map>
+#include <unordered_map>
+#include <vector>
 #include <memory>
 #include <mutex>
 
@@ -33,6 +35,8 @@ constexpr size_t kMemoryBankDataPtr = 96;
 constexpr size_t kMemoryBankDataByteOffset = 104;
 constexpr size_t kMemoryBankDataLength = 108;
 constexpr size_t kMemoryBankDataAllocated = 112;
+constexpr size_t kTagEvent = 116;
+constexpr size_t kTagEventTimeStamp = 120;
 constexpr size_t kLocationInfoPtr = 136;
 constexpr size_t kOpResultPtr = 144;
 constexpr size_t kPhaseInfo = 168;
@@ -48,9 +52,15 @@ struct OwnedRecord {
   int16_t opResult[8] = {};
 };
 
+// Records handed back are kept for reuse (up to kSpareRecords), so a
+// reader that hands out thousands of records a second does not make the
+// allocator churn.
+constexpr size_t kSpareRecords = 4096;
+
 struct Records {
   std::mutex mutex;
-  std::map<const void*, std::unique_ptr<OwnedRecord>> owned;
+  std::unordered_map<const void*, std::unique_ptr<OwnedRecord>> owned;
+  std::vector<std::unique_ptr<OwnedRecord>> spare;
 };
 
 Records& records() {
@@ -96,6 +106,8 @@ void fillSighting(uint8_t* r, const TagRead& read, const RecordFill& fill) {
   store<int16_t>(r, kChannelIndex, read.channelIndex);
   store<int16_t>(r, kTagSeenCount, static_cast<int16_t>(read.seenCount));
   store<int16_t>(r, kPhaseInfo, read.phase);
+  store<uint32_t>(r, kTagEvent, read.tagEvent);
+  storeSystemTime(r, kTagEventTimeStamp, read.tagEventTime);
 }
 
 void fillMemoryBank(OwnedRecord& owned, const TagRead& read, const RecordFill& fill) {
@@ -127,10 +139,17 @@ void fillLocation(OwnedRecord& owned, const TagRead& read) {
 }  // namespace
 
 void* allocateTagRecord(int64_t reader) {
-  auto owned = std::make_unique<OwnedRecord>();
+  std::lock_guard<std::mutex> lock(records().mutex);
+  std::unique_ptr<OwnedRecord> owned;
+  if (records().spare.empty()) {
+    owned = std::make_unique<OwnedRecord>();
+  } else {
+    owned = std::move(records().spare.back());
+    records().spare.pop_back();
+    *owned = OwnedRecord();
+  }
   owned->reader = reader;
   void* record = owned->record;
-  std::lock_guard<std::mutex> lock(records().mutex);
   records().owned[record] = std::move(owned);
   return record;
 }
@@ -139,6 +158,7 @@ bool releaseTagRecord(void* record) {
   std::lock_guard<std::mutex> lock(records().mutex);
   auto it = records().owned.find(record);
   if (it == records().owned.end()) return false;
+  if (records().spare.size() < kSpareRecords) records().spare.push_back(std::move(it->second));
   records().owned.erase(it);
   return true;
 }

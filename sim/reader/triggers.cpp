@@ -64,7 +64,7 @@ StopTrigger readStop(const Blob& t) {
 
 Triggers readTriggers(const Blob& triggerInfo) {
   if (!triggerInfo.present) return {};
-  return {readStart(triggerInfo), readStop(triggerInfo)};
+  return {readStart(triggerInfo), readStop(triggerInfo), {}};
 }
 
 }  // namespace sim

@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "record/journal.h"
+#include "reader/tag_reports.h"
 
 namespace sim {
 
@@ -35,6 +36,7 @@ struct StopTrigger {
 struct Triggers {
   StartTrigger start;
   StopTrigger stop;
+  TagReportPlan reports;  // set by the caller from the records TRIGGER_INFO points at
 };
 
 // From the captured TRIGGER_INFO; an absent one (NULL) starts at once and

@@ -24,6 +24,7 @@
 #include <vector>
 
 #include "record/journal.h"
+#include "reader/capabilities.h"
 #include "reader/last_error.h"
 #include "reader/sessions.h"
 #include "reader/status.h"
@@ -82,6 +83,12 @@ class ApiCall {
 
   // A pointer the function cannot work without; NULL makes kInvalidParam.
   void require(const void* p) { missing_ = missing_ || p == nullptr; }
+  // A request beyond the reader's capabilities (reader/capabilities.h): an
+  // empty reason is none; otherwise kInvalidParam, with the first reason
+  // as the last error. A captured antenna selection is checked by finish().
+  void refuse(const std::string& reason) {
+    if (refusal_.empty()) refusal_ = reason;
+  }
 
   // Writes the scripted output of the function across outs, in order and at
   // their sizes; without a script, defaults instead. Bytes that neither
@@ -104,6 +111,7 @@ class ApiCall {
   int64_t handle_ = 0;
   bool checksHandle_ = false;
   bool missing_ = false;
+  std::string refusal_;
   bool scripted_ = false;
   std::vector<std::string> names_;
 
@@ -163,13 +171,15 @@ inline void ApiCall::outputsIfScripted(std::initializer_list<Out> outs) {
 }
 
 inline int32_t ApiCall::finish() {
+  refuse(selectionProblem(*this));
   int32_t status = kSuccess;
   scripted_ = recorder_.finish(&status);
   if (!scripted_) {
     if (checksHandle_ && !sessionExists(handle_)) return kInvalidHandle;
-    if (missing_) status = kInvalidParam;
+    if (missing_ || !refusal_.empty()) status = kInvalidParam;
   }
-  if (checksHandle_) rememberFailure(handle_, status, fn_);
+  const bool refused = !scripted_ && !missing_ && !refusal_.empty();
+  if (checksHandle_) rememberFailure(handle_, status, fn_, refused ? refusal_ : std::string());
   return status;
 }
 

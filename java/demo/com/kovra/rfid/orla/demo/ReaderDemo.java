@@ -31,8 +31,8 @@ public final class ReaderDemo {
     /** Bit offset of the EPC in the EPC bank (after the CRC and PC words). */
     private static final short EPC_BIT_OFFSET = 32;
     /** The table's lines; the EPC column holds a 256-bit EPC (64 hexadecimal digits). */
-    private static final String HEADER_FORMAT = "%-64s %7s %6s %7s%n";
-    private static final String ROW_FORMAT = "%-64s %7d %6d %7d%n";
+    private static final String HEADER_FORMAT = "%-64s %7s %6s %7s  %s%n";
+    private static final String ROW_FORMAT = "%-64s %7d %6d %7d  %s%n";
 
     private final Options options;
     private final PrintStream out = System.out;
@@ -147,11 +147,12 @@ public final class ReaderDemo {
         if (live && !last) {
             out.print("\033[H\033[2J");
         }
-        out.printf(HEADER_FORMAT, "EPC", "antenna", "RSSI", "count");
+        out.printf(HEADER_FORMAT, "EPC", "antenna", "RSSI", "count", "field");
         List<Row> sorted = new ArrayList<>(rows.values());
         sorted.sort((a, b) -> a.epc.equals(b.epc) ? Short.compare(a.antenna, b.antenna) : a.epc.compareTo(b.epc));
         for (Row row : sorted) {
-            out.printf(ROW_FORMAT, row.epc, row.antenna, row.peakRssi, row.count);
+            out.printf(ROW_FORMAT, row.epc, row.antenna, row.peakRssi, row.count,
+                    now - row.lastReadMs < Row.GONE_AFTER_MS ? "here" : "gone");
         }
         out.printf("%d tags, %d reads%n", uniqueEpcs(), rows.values().stream().mapToLong(r -> r.count).sum());
     }
@@ -205,12 +206,14 @@ public final class ReaderDemo {
         return bytes;
     }
 
-    /** One line of the table: a tag as seen by one antenna. */
+    /** One line of the table: a tag as seen by one antenna; gone when that antenna has not read it for a second. */
     private static final class Row {
+        static final long GONE_AFTER_MS = 1000;
         final String epc;
         final short antenna;
         short peakRssi = Short.MIN_VALUE;
         long count;
+        long lastReadMs;
 
         Row(String epc, short antenna) {
             this.epc = epc;
@@ -220,6 +223,7 @@ public final class ReaderDemo {
         void add(TAG_DATA tag) {
             peakRssi = (short) Math.max(peakRssi, tag.peakRSSI);
             count += Math.max(1, tag.tagSeenCount);
+            lastReadMs = System.currentTimeMillis();
         }
     }
 

@@ -58,4 +58,52 @@ public final class SimReader {
 
   /** Seen times of later tag records in the up-time form (true) or UTC (false, the default). */
   public static native void useUpTime(long reader, boolean upTime);
+
+  /**
+   * Whether calls are checked against the reader's capabilities (antenna IDs
+   * 1 to 4, indices within its power, sensitivity, frequency and RF mode
+   * tables): a call beyond them gets status 2 and a last error that says why.
+   * By default a recording simulator does not check and one that does not
+   * record does; this decides until {@link SimControl#reset()}.
+   */
+  public static native void checkCapabilities(boolean on);
+
+  /**
+   * Replaces the scenario (when tags enter and leave the field, and on which
+   * antennas): one window a line, {@code EPC=hex AT=from-to [EVERY=ms]
+   * [ANT=1,3] [RSSI=-55]}, times in milliseconds of the field's time (25 ms
+   * a round). An empty text: every tag always in its field. Returns null, or
+   * the problem, and keeps the scenario as it was.
+   */
+  public static native String loadScenario(String text);
+
+  /** Reads per second a reader manages at most (800 by default); 0: no limit. */
+  public static native void readRate(int perSecond);
+
+  /**
+   * Fast mode: rounds follow one another at once instead of 25 ms apart; the
+   * field's time still advances 25 ms a round, so a scenario plays alike.
+   */
+  public static native void fastMode(boolean fast);
+
+  /**
+   * Plays the reader's field again from its start (field time 0, every
+   * antenna from its first tag) with the seed of its random choices: the
+   * same seed gives the same reads.
+   */
+  public static native void seed(long reader, long seed);
+
+  /**
+   * An antenna is plugged in or pulled out: raises an antenna event (the
+   * antenna, then 1 connected or 0 disconnected); a disconnected antenna
+   * reads nothing.
+   */
+  public static native void connectAntenna(long reader, int antenna, boolean connected);
+
+  /**
+   * The reader's temperature in degrees Celsius: a temperature alarm (source
+   * 0, the temperature, the level) is raised when the alarm level changes:
+   * 0 below 60, 1 from 60, 2 from 70.
+   */
+  public static native void setTemperature(long reader, int celsius);
 }
