@@ -18,7 +18,7 @@ JVM_OPTIONS=()
 echo "== benchmark"
 run ReadTagsBench "$@"
 echo "== simulator"
-build-release/field_bench
+build-release/bench/field_bench
 echo "== stress"
 run StressRun
 echo "== soak"
