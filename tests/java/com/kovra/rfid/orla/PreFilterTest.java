@@ -38,7 +38,7 @@ class PreFilterTest extends NativeTest {
     }
 
     @Test
-    void recordFieldsSitAtTheirOffsetsAndTheIndexComesBack() {
+    void recordFieldsSitAtTheirOffsetsAndTheIndexComesBackOnSuccess() {
         int reader = connect();
         SimControl.setOutput("RFID_AddPreFilter", new Bytes.Builder(4).u32(0, 0xFEDC_BA98L).build());
         int[] index = {-1};
@@ -53,6 +53,11 @@ class PreFilterTest extends NativeTest {
         assertArrayEquals(new long[] {3, 12, 0x8020, 1, 4, 7, 2}, fields(r, 0, 4, 16, 2, 18, 2, 20, 4, 24, 4, 28, 4, 32, 4),
                 "the state-aware target overwrites the state-unaware action at 24");
         assertArrayEquals(new byte[] {(byte) 0xDE, (byte) 0xAD}, call.blob("preFilter.tagPattern"));
+
+        SimControl.setStatus("RFID_AddPreFilter", 7);
+        int[] kept = {-5};
+        assertEquals(7, ORLANatives.RFID_AddPreFilter(reader, 1, f, kept));
+        assertEquals(-5, kept[0], "the reader wrote an index, but the status was not 0");
     }
 
     @Test
