@@ -66,7 +66,6 @@ class StorageSingulationTest extends NativeTest {
         c.tagPopulation = (short) 0x8000;
         c.tagTransitTimeMilliseconds = 500;
         c.enumSession = 3;
-        SINGULATION_CONTROL c = new SINGULATION_CONTROL();
         c.stateAwareSingulationAction.perform = true;
         c.stateAwareSingulationAction.inventoryState = INVENTORY_STATE.INVENTORY_STATE_AB_FLIP;
         c.stateAwareSingulationAction.slFlag = SL_FLAG.SL_FLAG_DEASSERTED;
