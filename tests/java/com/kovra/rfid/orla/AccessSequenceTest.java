@@ -112,7 +112,7 @@ class AccessSequenceTest extends NativeTest {
     }
 
     @Test
-    void blockPermalockAttachesAMaskBuffer() {
+    void blockPermalockAttachesAMaskBufferThatOutlivesTheCall() {
         ACCESS_OPERATION op = operation(ACCESS_OPERATION_CODE.ACCESS_OPERATION_BLOCK_PERMALOCK);
         BLOCK_PERMALOCK_ACCESS_PARAMS p = op.blockPermalockAccessParamsStruct;
         p.memoryBank = MEMORY_BANK.MEMORY_BANK_USER;
@@ -134,6 +134,14 @@ class AccessSequenceTest extends NativeTest {
         record = params(add(op), 7);
         assertEquals(0, Bytes.u8(record, 4));
         assertNotEquals(0L, Bytes.ptr(record, 16), "an empty mask buffer, the Java mask not read");
+
+        p.mask = new byte[16];
+        for (int i = 0; i < 16; i++) {
+            p.mask[i] = (byte) (0xC0 + i);
+        }
+        p.maskLength = 16;
+        long mask = Bytes.ptr(params(add(op), 7), 16);
+        assertArrayEquals(p.mask, SimControl.read(mask, 16), "the mask outlives the call");
     }
 
     @Test
