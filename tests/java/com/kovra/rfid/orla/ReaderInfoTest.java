@@ -113,12 +113,6 @@ class ReaderInfoTest extends NativeTest {
         assertEquals(0, ORLANatives.RFID_GetTimeZoneList(reader, zones));
         assertEquals("", zones.TimeZoneList, "no zones: an empty string, not null");
         assertEquals(0, zones.numTimeZones);
-
-        SimControl.setOutput("RFID_GetTimeZoneListW", nameList(1, names("Asia/Tokyo"), 5));
-        SimControl.setStatus("RFID_GetTimeZoneListW", FAILED);
-        assertEquals(FAILED, ORLANatives.RFID_GetTimeZoneList(reader, zones));
-        assertArrayEquals(new short[] {0, 0}, new short[] {zones.numTimeZones, zones.activeTimeZoneIndex});
-        assertEquals("", zones.TimeZoneList);
     }
 
     static final String[] COUNTERS = {"identifiedSuccessCount", "identifiedFailureCount", "readSuccessCount",
