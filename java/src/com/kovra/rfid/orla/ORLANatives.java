@@ -3,7 +3,7 @@ package com.kovra.rfid.orla;
 /**
  * The native entry points of the SDK: every operation of the reader API as one static method.
  *
- * <p>The class loads the native libraries on first use, through {@link OrlaLibrary#load()}. Each method reads
+ * <p>The class loads the libraries on first use, through {@link OrlaLibrary#load()}. Each method reads
  * the fields of the objects it is given, builds the reader API's records from them, calls the reader API,
  * and writes what the reader returns into objects that the caller created beforehand.
  *
