@@ -8,6 +8,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <ostream>
 
 #include "checks.h"
 #include "dependencies.h"
@@ -76,6 +77,7 @@ struct Damage {
   std::function<void(std::vector<unsigned char>&)> apply;
   const char* error;
 };
+void PrintTo(const Damage& d, std::ostream* os) { *os << d.what; }
 
 const Damage kDamages[] = {
     {"empty file", [](auto& f) { f.clear(); }, "not an ELF file"},
@@ -157,6 +159,7 @@ struct LibraryFault {
   std::function<void(ElfImage&)> apply;
   const char* problem;
 };
+void PrintTo(const LibraryFault& f, std::ostream* os) { *os << f.what; }
 
 const LibraryFault kLibraryFaults[] = {
     {"native missing", [](ElfImage& i) { i.symbols.erase(i.symbols.begin()); },
