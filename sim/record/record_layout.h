@@ -83,4 +83,14 @@ bool Applies(const Field& field, const std::vector<uint8_t>& bytes, size_t base)
 // "name[i]" for an array.
 std::string EntryName(const Field& field, size_t i);
 
+// Where a field lies in the record, by its name or by a path through
+// embedded records ("startTrigger.type", "start[3].startTime"). `bytes` is
+// the width the caller reads or writes there: the scalar's width (a pointer
+// is 8), or 0 for an embedded record or an inline array. The simulator
+// composes and reads records by these names, so the offsets live in the
+// descriptions alone. A name the record does not have, or a width that is
+// not the field's, is a fault of the simulator's own code: it is said on
+// stderr and the process aborts, at the first use of the name.
+size_t OffsetOf(const Record& record, const std::string& path, size_t bytes);
+
 }  // namespace sim::layout
