@@ -1,7 +1,9 @@
 // Deep capture of a record by its description (record_layout.h): the record
 // itself under `name`, what each pointer field points to under
 // "<name>.<field>" (records inside records add their field name:
-// "<name>.startTrigger.startTime", "<name>.start[3].startTime"), recursively.
+// "<name>.startTrigger.startTime", "<name>.start[3].startTime"), recursively;
+// an array of records pointed to is one blob, and what its entries point to
+// goes under "<name>.<field>[i].<field>".
 // A NULL pointer is captured as an absent blob. Pointers are read from the
 // copy just captured, never from the caller's memory again, so a wild
 // record faults its blob instead of the process.
@@ -43,13 +45,18 @@ bool capturePointees(Sink& sink, const std::string& path, const std::string& nam
       }
       continue;
     }
-    if (field.kind != Kind::Pointer || (field.record == nullptr && field.length.width == 0 && field.length.fixed == 0)) {
-      continue;
-    }
+    if (!Followed(field)) continue;
     const std::vector<uint8_t>& bytes = sink.captured(name).bytes;
     const void* target = reinterpret_cast<const void*>(UnsignedAt(bytes, base + field.offset, 8));
     const std::string child = path + "." + field.name;
-    if (field.record != nullptr) {
+    if (PointsToRecords(field)) {
+      const size_t count = RecordCount(field, bytes, base);
+      ok = captureBytes(sink, child, target, count * field.record->size) && ok;
+      for (size_t i = 0; target != nullptr && i < count; ++i) {
+        ok = capturePointees(sink, child + "[" + std::to_string(i) + "]", child, i * field.record->size,
+                             *field.record) && ok;
+      }
+    } else if (field.record != nullptr) {
       ok = captureRecord(sink, child, target, *field.record) && ok;
     } else {
       ok = captureBytes(sink, child, target, LengthIn(field.length, bytes, base)) && ok;

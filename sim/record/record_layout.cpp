@@ -29,6 +29,18 @@ size_t LengthIn(const Length& length, const std::vector<uint8_t>& bytes, size_t 
   return static_cast<size_t>(length.roundUp ? (units + length.per - 1) / length.per : units / length.per);
 }
 
+bool Followed(const Field& field) {
+  return field.kind == Kind::Pointer && (field.record != nullptr || field.length.width != 0 || field.length.fixed != 0);
+}
+
+bool PointsToRecords(const Field& field) {
+  return field.kind == Kind::Pointer && field.record != nullptr && (field.length.width != 0 || field.length.fixed != 0);
+}
+
+size_t RecordCount(const Field& field, const std::vector<uint8_t>& bytes, size_t base) {
+  return field.record->size == 0 ? 0 : LengthIn(field.length, bytes, base) / field.record->size;
+}
+
 bool Applies(const Field& field, const std::vector<uint8_t>& bytes, size_t base) {
   return field.when == nullptr || UnsignedAt(bytes, base + field.when->at, 4) == field.when->equals;
 }

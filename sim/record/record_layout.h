@@ -55,7 +55,10 @@ struct Field {
   size_t offset;
   Kind kind;
   const Record* record = nullptr;  // Embedded: the record inside; Pointer: the record pointed to
-  Length length{};                 // Pointer without record: the bytes pointed to (none when zero)
+  // Pointer without record: the bytes pointed to (none when zero). Pointer
+  // with a record and a length: an array of records of those bytes in all,
+  // its entries named "name[i]".
+  Length length{};
   size_t count = 1;                // Embedded: entries ("name[i]"); Bytes, Wide: elements
   const When* when = nullptr;
 };
@@ -75,6 +78,13 @@ size_t LengthIn(const Length& length, const std::vector<uint8_t>& bytes, size_t 
 
 // An unsigned little-endian field of width bytes; 0 beyond the bytes.
 uint64_t UnsignedAt(const std::vector<uint8_t>& bytes, size_t offset, size_t width);
+
+// Whether a pointer field is followed: to a record, to records or to bytes.
+bool Followed(const Field& field);
+// Whether a pointer field points to an array of records.
+bool PointsToRecords(const Field& field);
+// How many records such an array holds, by its length rule.
+size_t RecordCount(const Field& field, const std::vector<uint8_t>& bytes, size_t base);
 
 // Whether a field's condition holds for the record at base.
 bool Applies(const Field& field, const std::vector<uint8_t>& bytes, size_t base);

@@ -60,7 +60,13 @@ std::string FieldsJson(const Record& record, const BlobSet& blobs, const std::st
 std::string PointeeJson(const Field& field, const BlobSet& blobs, const std::string& child) {
   const Blob& blob = blobs.captured(child);
   if (!blob.present || blob.faulted || field.record == nullptr) return BlobJson(blob);
-  return FieldsJson(*field.record, blobs, child, child, 0);
+  if (!layout::PointsToRecords(field)) return FieldsJson(*field.record, blobs, child, child, 0);
+  std::string items = "[";
+  for (size_t i = 0; i < blob.bytes.size() / field.record->size; ++i) {
+    if (i > 0) items += ",";
+    items += FieldsJson(*field.record, blobs, child, child + "[" + std::to_string(i) + "]", i * field.record->size);
+  }
+  return items + "]";
 }
 
 std::string FieldJson(const Field& field, const BlobSet& blobs, const std::string& blobName, const std::string& path,
@@ -83,8 +89,7 @@ std::string FieldJson(const Field& field, const BlobSet& blobs, const std::strin
     case Kind::Wide: return WideJson(bytes, at, field.count);
     case Kind::Pointer: {
       const uint64_t address = layout::UnsignedAt(bytes, at, 8);
-      const bool followed = field.record != nullptr || field.length.width != 0 || field.length.fixed != 0;
-      if (!followed || address == 0) return address == 0 ? "null" : Address(address);
+      if (!layout::Followed(field) || address == 0) return address == 0 ? "null" : Address(address);
       return PointeeJson(field, blobs, path + "." + field.name);
     }
     default: return ScalarJson(field, bytes, at);

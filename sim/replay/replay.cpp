@@ -71,7 +71,14 @@ void CollectSpans(const Record& record, const std::string& path, const std::stri
     if (field.kind == Kind::Bytes) size = field.count;
     if (field.kind == Kind::Wide) size = field.count * 4;
     (*spans)[blobName].push_back({at, size, fieldPath, field.kind == Kind::Pointer});
-    if (field.kind == Kind::Pointer && field.record != nullptr) {
+    if (layout::PointsToRecords(field)) {
+      auto pointee = blobs.find(fieldPath);
+      const size_t count = pointee == blobs.end() ? 0 : pointee->second.bytes.size() / field.record->size;
+      for (size_t i = 0; i < count; ++i) {
+        CollectSpans(*field.record, fieldPath + "[" + std::to_string(i) + "]", fieldPath, i * field.record->size,
+                     blobs, spans);
+      }
+    } else if (field.kind == Kind::Pointer && field.record != nullptr) {
       CollectSpans(*field.record, fieldPath, fieldPath, 0, blobs, spans);
     }
   }
