@@ -26,8 +26,15 @@
 #include "record/json.h"
 #include "record/trace_line.h"
 #include "replay/replay.h"
+#include "trace_fixture.h"
 
 namespace {
+
+using trace_test::Bind;
+using trace_test::Bytes;
+using trace_test::Tracer;
+using trace_test::ReadTrace;
+using trace_test::TracePath;
 
 const char* const kTags =
     "EPC=300000000000000000000001 ANT=1 RSSI=-40\n"
@@ -50,12 +57,6 @@ struct Api {
   int32_t (*GetAntennaConfig)(int64_t, uint16_t, uint16_t*, uint16_t*, uint16_t*);
 };
 
-template <class F>
-void Bind(void* library, const char* name, F* f) {
-  *f = reinterpret_cast<F>(dlsym(library, name));
-  ASSERT_NE(*f, nullptr) << name;
-}
-
 void BindAll(void* library, Api* api) {
   Bind(library, "rfidUtils_CreateEvent", &api->CreateEvent);
   Bind(library, "RFID_RegisterEventNotification", &api->RegisterEventNotification);
@@ -70,19 +71,6 @@ void BindAll(void* library, Api* api) {
   Bind(library, "RFID_AddPreFilter", &api->AddPreFilter);
   Bind(library, "RFID_GetAntennaConfig", &api->GetAntennaConfig);
 }
-
-// A record under construction, zero-filled to its size.
-struct Bytes {
-  explicit Bytes(size_t n) : b(n, 0) {}
-  template <class T>
-  Bytes& put(size_t at, T v) {
-    std::memcpy(b.data() + at, &v, sizeof v);
-    return *this;
-  }
-  Bytes& ptr(size_t at, const void* p) { return put<uint64_t>(at, reinterpret_cast<uintptr_t>(p)); }
-  void* data() { return b.data(); }
-  std::vector<uint8_t> b;
-};
 
 struct TagSeen {
   std::vector<uint8_t> epc;
@@ -179,33 +167,9 @@ Outcome RunSession(const Api& api, int64_t reader, uint16_t byteOffset) {
   return o;
 }
 
-std::vector<sim::trace::TracedCall> ReadTrace(const std::string& path) {
-  std::vector<sim::trace::TracedCall> calls;
-  std::ifstream in(path);
-  for (std::string line; std::getline(in, line);) {
-    sim::json::ParseResult parsed = sim::json::Parse(line);
-    EXPECT_TRUE(parsed.value) << parsed.error;
-    if (!parsed.value) continue;
-    sim::trace::TracedCall call;
-    std::string error;
-    EXPECT_TRUE(sim::trace::FromJson(*parsed.value, &call, &error)) << error;
-    calls.push_back(std::move(call));
-  }
-  return calls;
-}
-
 class TraceReplayTest : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    path_ = new std::string(testing::TempDir() + "halyard-trace-" + std::to_string(getpid()) + ".jsonl");
-    std::remove(path_->c_str());
-    setenv("HALYARD_TRACE_TARGET", SIM_LIBRARY, 1);
-    setenv("HALYARD_TRACE_FILE", path_->c_str(), 1);
-    tracer_ = dlopen(TRACE_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    ASSERT_NE(tracer_, nullptr) << dlerror();
-  }
-
-  static void TearDownTestSuite() { std::remove(path_->c_str()); }
+  static void SetUpTestSuite() { ASSERT_NE(Tracer(), nullptr); }
 
   void SetUp() override {
     sim::replay::stop();
@@ -218,13 +182,17 @@ class TraceReplayTest : public ::testing::Test {
     sim::resetSimulator();
   }
 
-  // Runs the session through the tracer, once for the whole suite.
+  // Runs the session through the tracer, once for the whole suite; its
+  // calls are the trace's from skip_ on, and session_ holds them alone.
   static const Outcome& Traced() {
     static Outcome* outcome = nullptr;
     if (outcome == nullptr) {
       Api api{};
-      BindAll(tracer_, &api);
+      BindAll(Tracer(), &api);
+      skip_ = trace_test::TracedCount();
       outcome = new Outcome(RunSession(api, sim::openSession(), 4));
+      session_ = new std::string(trace_test::TracePath() + ".session");
+      trace_test::CopyTrace(skip_, *session_);
     }
     return *outcome;
   }
@@ -235,17 +203,21 @@ class TraceReplayTest : public ::testing::Test {
     return api;
   }
 
-  static std::string* path_;
-  static void* tracer_;
+  static void TearDownTestSuite() {
+    if (session_ != nullptr) std::remove(session_->c_str());
+  }
+
+  static size_t skip_;
+  static std::string* session_;
 };
 
-std::string* TraceReplayTest::path_ = nullptr;
-void* TraceReplayTest::tracer_ = nullptr;
+size_t TraceReplayTest::skip_ = 0;
+std::string* TraceReplayTest::session_ = nullptr;
 
 TEST_F(TraceReplayTest, TraceHoldsTheBytesTheSimulatorCaptured) {
   const Outcome& traced = Traced();
   ASSERT_EQ(traced.tags.size(), 4u) << "three tags, one of them on both antennas";
-  const std::vector<sim::trace::TracedCall> calls = ReadTrace(*path_);
+  const std::vector<sim::trace::TracedCall> calls = ReadTrace(skip_);
   ASSERT_EQ(calls.size(), sim::journalSnapshot().size());
 
   std::map<std::string, int64_t> seen;  // calls of each function so far
@@ -275,7 +247,7 @@ TEST_F(TraceReplayTest, TraceHoldsTheBytesTheSimulatorCaptured) {
 
 TEST_F(TraceReplayTest, TraceHoldsWhatTheSimulatorWroteBack) {
   const Outcome& traced = Traced();
-  const std::vector<sim::trace::TracedCall> calls = ReadTrace(*path_);
+  const std::vector<sim::trace::TracedCall> calls = ReadTrace(skip_);
   std::multiset<TagSeen> tags;
   for (const sim::trace::TracedCall& call : calls) {
     if (call.function == "RFID_GetAntennaConfig") {
@@ -307,7 +279,7 @@ TEST_F(TraceReplayTest, ReplayGivesTheSameTagsAndOutputs) {
   sim::resetSimulator();
   sim::loadPopulation("");  // no tag of the reader model can leak into the replay
   std::string error;
-  ASSERT_TRUE(sim::replay::start(*path_, &error)) << error;
+  ASSERT_TRUE(sim::replay::start(*session_, &error)) << error;
   const Outcome replayed = RunSession(Direct(), sim::openSession(), 4);
   EXPECT_EQ(sim::replay::divergence(), "");
   EXPECT_EQ(replayed.tags, traced.tags);
@@ -320,7 +292,7 @@ TEST_F(TraceReplayTest, ReplayGivesTheSameTagsAndOutputs) {
 TEST_F(TraceReplayTest, ReplayReportsTheFirstCallThatDiffers) {
   Traced();
   std::string error;
-  ASSERT_TRUE(sim::replay::start(*path_, &error)) << error;
+  ASSERT_TRUE(sim::replay::start(*session_, &error)) << error;
   const Outcome replayed = RunSession(Direct(), sim::openSession(), 6);
   EXPECT_EQ(replayed.readStatus, sim::replay::kReplayDiverged);
   EXPECT_EQ(replayed.lastStatus, sim::replay::kReplayDiverged) << "every later call too";
