@@ -1,26 +1,10 @@
 #include "record/record_layouts.h"
 
+#include "record/layout_fields.h"
+#include "record/session_layouts.h"
+
 namespace sim::layout {
 namespace {
-
-Field Scalar(const char* name, size_t offset, Kind kind) { return Field{name, offset, kind}; }
-
-Field PointerTo(const char* name, size_t offset, const Record& record, const When* when = nullptr) {
-  return Field{name, offset, Kind::Pointer, &record, {}, 1, when};
-}
-
-Field PointerToBytes(const char* name, size_t offset, Length length) {
-  return Field{name, offset, Kind::Pointer, nullptr, length};
-}
-
-Field Inside(const char* name, size_t offset, const Record& record, size_t count = 1) {
-  return Field{name, offset, Kind::Embedded, &record, {}, count};
-}
-
-Field Variant(const When& when, Field field) {
-  field.when = &when;
-  return field;
-}
 
 // START_TRIGGER and STOP_TRIGGER select their variant by the type at 0.
 constexpr When kStartPeriodic{0, 1};
@@ -34,6 +18,12 @@ constexpr When kStopTagObservation{0, 3};
 constexpr When kStopNumAttempts{0, 4};
 constexpr When kStopHandheld{0, 5};
 constexpr When kStopTimelapse{0, 6};
+
+// The access-operation result a tag record points to depends on its opCode at 80.
+constexpr When kQtResult{80, 21};
+constexpr When kNxpConfigWordResult{80, 22};
+// Codes 23, 24 and 26: the security operations whose reply is a bit string.
+constexpr When kBitStringResults[] = {{80, 23}, {80, 24}, {80, 26}};
 
 // Every tag access parameter record ends with four reserved words.
 Field Reserved(size_t offset) { return Field{"reserved", offset, Kind::Bytes, nullptr, {}, 32}; }
@@ -327,7 +317,7 @@ const Record& TagData() {
       Scalar("XPC", 28, Kind::U32),
       Scalar("CRC", 32, Kind::U16),
       Scalar("antennaID", 34, Kind::I16),
-      Field{"seenTime", 40, Kind::Bytes, nullptr, {}, 32},
+      Inside("seenTime", 40, SeenTime()),
       Scalar("peakRSSI", 72, Kind::I8),
       Scalar("channelIndex", 74, Kind::I16),
       Scalar("tagSeenCount", 76, Kind::I16),
@@ -340,9 +330,14 @@ const Record& TagData() {
       Scalar("memoryBankDataAllocated", 112, Kind::U32),
       Scalar("tagEvent", 116, Kind::U32),
       Inside("tagEventTimeStamp", 120, SystemTime()),
-      PointerToBytes("pLocationInfo", 136, Fixed(2)),
+      PointerTo("pLocationInfo", 136, LocationInfo()),
+      Variant(kQtResult, PointerTo("pOpResult", 144, QtData())),
+      Variant(kNxpConfigWordResult, PointerTo("pOpResult", 144, NxpChangeConfigWordResult())),
+      Variant(kBitStringResults[0], PointerTo("pOpResult", 144, BitStringResult())),
+      Variant(kBitStringResults[1], PointerTo("pOpResult", 144, BitStringResult())),
+      Variant(kBitStringResults[2], PointerTo("pOpResult", 144, BitStringResult())),
       Scalar("phaseInfo", 168, Kind::I16),
-      PointerToBytes("pGpsLocation", 184, Fixed(12)),
+      PointerTo("pGpsLocation", 184, GpsLocation()),
   }};
   return r;
 }
