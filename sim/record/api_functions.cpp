@@ -1,6 +1,7 @@
 #include "record/api_functions.h"
 
 #include "record/record_layouts.h"
+#include "record/session_layouts.h"
 
 namespace sim::api {
 namespace {
@@ -16,12 +17,15 @@ ArgSpec Bytes(const char* name, int lengthArg, size_t unit = 1) {
 ArgSpec Out(const char* name, size_t bytes) { return ArgSpec{name, Arg::InOut, 8, false, nullptr, -1, 1, bytes}; }
 ArgSpec Rec(const char* name, const Record& record) { return ArgSpec{name, Arg::In, 8, false, &record}; }
 ArgSpec OutRec(const char* name, const Record& record) { return ArgSpec{name, Arg::InOut, 8, false, &record}; }
+ArgSpec OutRecBy(const char* name, int selectorArg, const Record& (*recordFor)(uint32_t)) {
+  return ArgSpec{name, Arg::InOut, 8, false, nullptr, selectorArg, 1, 0, recordFor};
+}
 ArgSpec Tags(const char* name, int countArg) { return ArgSpec{name, Arg::TagArray, 8, false, &TagData(), countArg}; }
 ArgSpec TagList(const char* name, int countArg) { return ArgSpec{name, Arg::TagList, 8, false, &TagData(), countArg}; }
 
 std::vector<FunctionSpec> Build() {
   return {
-    {"RFID_AcceptConnection", Result::Status, {Out("handleOut", 8), Int("passThrough", 8, true), Ptr("acceptInfo"), Ptr("scratchOut")}},
+    {"RFID_AcceptConnection", Result::Status, {Out("handleOut", 8), Int("passThrough", 8, true), Rec("acceptInfo", AcceptConnectionInfo()), Ptr("scratchOut")}},
     {"RFID_AddOperationToAccessSequence", Result::Status, {Int("handle", 8, true), Rec("operation", AccessOperation()), Out("index", 4)}},
     {"RFID_AddPreFilter", Result::Status, {Int("handle", 8, true), Int("antenna", 2), Rec("preFilter", PreFilter()), Out("index", 4)}},
     {"RFID_Authenticate", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", AuthenticateAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), OutRec("tag", TagData()), Ptr("reserved")}},
@@ -29,7 +33,7 @@ std::vector<FunctionSpec> Build() {
     {"RFID_BlockPermalock", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", BlockPermalockAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), OutRec("tag", TagData()), Ptr("reserved")}},
     {"RFID_BlockWrite", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", WriteAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), Ptr("reserved")}},
     {"RFID_ClearReaderStats", Result::Status, {Int("handle", 8, true)}},
-    {"RFID_ConnectW", Result::Status, {Out("handleOut", 8), Wide("hostName"), Int("first", 4), Int("second", 4), Ptr("connInfo")}},
+    {"RFID_ConnectW", Result::Status, {Out("handleOut", 8), Wide("hostName"), Int("first", 4), Int("second", 4), Rec("connInfo", ConnectionInfo())}},
     {"RFID_Crypto", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", CryptoAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), OutRec("tag", TagData()), Ptr("reserved")}},
     {"RFID_DeallocateTag", Result::Status, {Int("handle", 8, true), Rec("tag", TagData())}},
     {"RFID_DeinitializeAccessSequence", Result::Status, {Int("handle", 8, true)}},
@@ -46,17 +50,17 @@ std::vector<FunctionSpec> Build() {
     {"RFID_GetAntennaMode", Result::Status, {Int("handle", 8, true), Out("mode", 4)}},
     {"RFID_GetAntennaRfConfig", Result::Status, {Int("handle", 8, true), Int("antennaID", 2), Ptr("config")}},
     {"RFID_GetCableLossCompensation", Result::Status, {Int("handle", 8, true), Ptr("record")}},
-    {"RFID_GetDllVersionInfoW", Result::Status, {Ptr("versionInfo")}},
+    {"RFID_GetDllVersionInfoW", Result::Status, {OutRec("versionInfo", VersionInfo())}},
     {"RFID_GetErrorDescriptionW", Result::WideText, {Int("status", 4, true)}},
     {"RFID_GetDutyCycle", Result::Status, {Int("handle", 8, true), Out("dutyCycleIndex", 2), Ptr("scratch")}},
-    {"RFID_GetEventData", Result::Status, {Int("handle", 8, true), Int("type", 4), Ptr("record")}},
+    {"RFID_GetEventData", Result::Status, {Int("handle", 8, true), Int("type", 4), OutRecBy("record", 1, EventData)}},
     {"RFID_GetGPIDebounceTime", Result::Status, {Int("handle", 8, true), Out("value", 4), Ptr("debounce")}},
     {"RFID_GetGPIState", Result::Status, {Int("handle", 8, true), Int("port", 4, true), Out("state", 1), Out("value", 4)}},
     {"RFID_GetGPOState", Result::Status, {Int("handle", 8, true), Int("port", 4, true), Out("state", 1)}},
     {"RFID_GetHealthStatus", Result::Status, {Int("handle", 8, true), Int("query", 4), Out("status", 4), Ptr("detail")}},
-    {"RFID_GetLLRPConnectionConfigW", Result::Status, {Int("handle", 8, true), Ptr("config")}},
+    {"RFID_GetLLRPConnectionConfigW", Result::Status, {Int("handle", 8, true), OutRec("config", LlrpConnectionConfig())}},
     {"RFID_GetLastAccessResult", Result::Status, {Int("handle", 8, true), Out("first", 4), Out("second", 4)}},
-    {"RFID_GetLastErrorInfoW", Result::Status, {Int("handle", 8, true), Ptr("errorInfo")}},
+    {"RFID_GetLastErrorInfoW", Result::Status, {Int("handle", 8, true), OutRec("errorInfo", ErrorInfo())}},
     {"RFID_GetLocalTime", Result::Status, {Int("handle", 8, true), Ptr("time")}},
     {"RFID_GetPhysicalAntennaProperties", Result::Status, {Int("handle", 8, true), Int("antennaID", 2), Out("flag", 1), Out("value", 4)}},
     {"RFID_GetPowerNegotiationState", Result::Status, {Int("handle", 8, true), Out("state", 1)}},
@@ -82,12 +86,12 @@ std::vector<FunctionSpec> Build() {
     {"RFID_ImpinjQTWrite", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", QtWriteAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), Ptr("reserved")}},
     {"RFID_ImportProfileFromReaderW", Result::Status, {Int("handle", 8, true), Wide("first"), Wide("second")}},
     {"RFID_InitializeAccessSequence", Result::Status, {Int("handle", 8, true)}},
-    {"RFID_InitiateLLRPConnectionFromReader", Result::Status, {Int("handle", 8, true), Ptr("scratch")}},
+    {"RFID_InitiateLLRPConnectionFromReader", Result::Status, {Int("handle", 8, true), OutRec("scratch", LlrpInitiateScratch())}},
     {"RFID_InstallUserAppW", Result::Status, {Int("handle", 8, true), Wide("name")}},
     {"RFID_Kill", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", KillAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), Ptr("reserved")}},
     {"RFID_ListUserAppsW", Result::Status, {Int("handle", 8, true), Ptr("list")}},
     {"RFID_Lock", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", LockAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), Ptr("reserved")}},
-    {"RFID_LoginW", Result::Status, {Out("handleOut", 8), Ptr("loginInfo"), Int("readerKind", 4), Int("flag", 1), Ptr("reserved")}},
+    {"RFID_LoginW", Result::Status, {Out("handleOut", 8), Rec("loginInfo", LoginInfo()), Int("readerKind", 4), Int("flag", 1), Ptr("reserved")}},
     {"RFID_Logout", Result::Status, {Int("handle", 8, true)}},
     {"RFID_NXPChangeConfig", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", NxpAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), OutRec("tag", TagData()), Ptr("reserved")}},
     {"RFID_NXPReadProtect", Result::Status, {Int("handle", 8, true), Bytes("tagID", 2), Int("tagIDLength", 4), Rec("params", NxpAccessParams()), Rec("accessFilter", Filter()), Rec("antennaInfo", AntennaInfo()), Ptr("reserved")}},
@@ -114,7 +118,7 @@ std::vector<FunctionSpec> Build() {
     {"RFID_SetDutyCycle", Result::Status, {Int("handle", 8, true), Int("dutyCycleIndex", 2), Ptr("scratch")}},
     {"RFID_SetGPIDebounceTime", Result::Status, {Int("handle", 8, true), Int("value", 4, true), Ptr("debounce")}},
     {"RFID_SetGPOState", Result::Status, {Int("handle", 8, true), Int("port", 4, true), Int("state", 1)}},
-    {"RFID_SetLLRPConnectionConfigW", Result::Status, {Int("handle", 8, true), Ptr("config")}},
+    {"RFID_SetLLRPConnectionConfigW", Result::Status, {Int("handle", 8, true), Rec("config", LlrpConnectionConfig())}},
     {"RFID_SetLocalTime", Result::Status, {Int("handle", 8, true), Ptr("time")}},
     {"RFID_SetPowerNegotiationState", Result::Status, {Int("handle", 8, true), Int("state", 1)}},
     {"RFID_SetRFMode", Result::Status, {Int("handle", 8, true), Int("antennaID", 2), Int("first", 4), Int("second", 4)}},
@@ -168,6 +172,12 @@ const FunctionSpec* FindFunction(const std::string& name) {
     if (name == f.name) return &f;
   }
   return nullptr;
+}
+
+const Record* RecordOf(const FunctionSpec& fn, const ArgSpec& arg, const uint64_t* args) {
+  if (arg.recordFor == nullptr) return arg.record;
+  if (arg.lengthArg < 0 || static_cast<size_t>(arg.lengthArg) >= fn.args.size()) return nullptr;
+  return &arg.recordFor(static_cast<uint32_t>(UnsignedValue(fn.args[arg.lengthArg], args[arg.lengthArg])));
 }
 
 int64_t SignedValue(const ArgSpec& arg, uint64_t raw) {

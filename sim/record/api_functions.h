@@ -37,9 +37,12 @@ struct ArgSpec {
   uint8_t width = 8;
   bool isSigned = false;
   const layout::Record* record = nullptr;
-  int lengthArg = -1;
+  int lengthArg = -1;  // the argument a length depends on, or the record (recordFor)
   size_t unit = 1;
   size_t bytes = 0;
+  // In, InOut: the record is the one this gives for the value of argument
+  // lengthArg (RFID_GetEventData: the data record of the event type).
+  const layout::Record& (*recordFor)(uint32_t value) = nullptr;
 };
 
 struct FunctionSpec {
@@ -51,6 +54,10 @@ struct FunctionSpec {
 const std::vector<FunctionSpec>& Functions();
 // nullptr for a function the library does not import.
 const FunctionSpec* FindFunction(const std::string& name);
+
+// The record an argument points to in a call: its own, or the one the value
+// of another argument chooses; nullptr for none.
+const layout::Record* RecordOf(const FunctionSpec& fn, const ArgSpec& arg, const uint64_t* args);
 
 // An argument's raw register value as its declared type reads it: sign- or
 // zero-extended from its width.

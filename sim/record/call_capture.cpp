@@ -15,9 +15,9 @@ size_t LengthOf(const FunctionSpec& fn, const ArgSpec& arg, const uint64_t* args
   return static_cast<size_t>(UnsignedValue(fn.args[arg.lengthArg], args[arg.lengthArg])) * arg.unit;
 }
 
-void CaptureRecordOrBytes(const ArgSpec& arg, uint64_t raw, BlobSet* sink) {
-  if (arg.record != nullptr) {
-    layout::captureRecord(*sink, arg.name, AsPointer(raw), *arg.record);
+void CaptureRecordOrBytes(const layout::Record* record, const ArgSpec& arg, uint64_t raw, BlobSet* sink) {
+  if (record != nullptr) {
+    layout::captureRecord(*sink, arg.name, AsPointer(raw), *record);
   } else {
     sink->blob(arg.name, AsPointer(raw), arg.bytes);
   }
@@ -44,7 +44,7 @@ void CaptureInputs(const FunctionSpec& fn, const uint64_t* args, BlobSet* in) {
       case Arg::Wide: in->wide(arg.name, static_cast<const wchar_t*>(AsPointer(args[i])), kMaxWideChars); break;
       case Arg::Bytes: in->blob(arg.name, AsPointer(args[i]), LengthOf(fn, arg, args)); break;
       case Arg::In:
-      case Arg::InOut: CaptureRecordOrBytes(arg, args[i], in); break;
+      case Arg::InOut: CaptureRecordOrBytes(RecordOf(fn, arg, args), arg, args[i], in); break;
       case Arg::TagList: CaptureTagArray(arg, args[i], LengthOf(fn, arg, args), in); break;
       default: break;
     }
@@ -57,13 +57,14 @@ void CaptureOutputs(const FunctionSpec& fn, const uint64_t* args, uint64_t resul
     const ArgSpec& arg = fn.args[i];
     if (arg.kind != Arg::InOut) continue;
     const Blob& before = in.captured(arg.name);
-    if (arg.record == nullptr && before.present && !before.faulted && before.bytes.size() == arg.bytes) {
+    const layout::Record* record = RecordOf(fn, arg, args);
+    if (record == nullptr && before.present && !before.faulted && before.bytes.size() == arg.bytes) {
       Blob after = before;
       std::memcpy(after.bytes.data(), AsPointer(args[i]), arg.bytes);
       out->put(arg.name, std::move(after));
       continue;
     }
-    CaptureRecordOrBytes(arg, args[i], out);
+    CaptureRecordOrBytes(record, arg, args[i], out);
   }
   // The count of a tag array is an out-parameter captured just now.
   for (size_t i = 0; i < fn.args.size(); ++i) {

@@ -121,11 +121,12 @@ std::string BlobsJson(const BlobSet& blobs) {
   return out + "}";
 }
 
-std::string DecodedJson(const api::FunctionSpec& fn, const BlobSet& blobs, bool outputs) {
+std::string DecodedJson(const api::FunctionSpec& fn, const uint64_t* args, const BlobSet& blobs, bool outputs) {
   std::string out = "{";
   bool first = true;
   for (const api::ArgSpec& arg : fn.args) {
-    if (arg.record == nullptr || (outputs && !api::IsOutput(arg))) continue;
+    const layout::Record* record = api::RecordOf(fn, arg, args);
+    if (record == nullptr || (outputs && !api::IsOutput(arg))) continue;
     if (!outputs && arg.kind == api::Arg::TagArray) continue;  // filled by the call
     const bool array = arg.kind == api::Arg::TagArray || arg.kind == api::Arg::TagList;
     if (!array && !blobs.captured(arg.name).present) continue;
@@ -134,7 +135,7 @@ std::string DecodedJson(const api::FunctionSpec& fn, const BlobSet& blobs, bool 
     out += json::Quote(arg.name) + ":";
     if (!array) {
       const Blob& blob = blobs.captured(arg.name);
-      out += blob.faulted ? "\"fault\"" : DecodeRecord(*arg.record, blobs, arg.name);
+      out += blob.faulted ? "\"fault\"" : DecodeRecord(*record, blobs, arg.name);
       continue;
     }
     out += "[";
@@ -215,7 +216,7 @@ std::string ToJsonLine(const Entry& e) {
     line += ArgJson(e.fn->args[i], e.args[i]);
   }
   line += "],\"in\":" + BlobsJson(e.in) + ",\"out\":" + BlobsJson(e.out);
-  line += ",\"decoded\":{\"in\":" + DecodedJson(*e.fn, e.in, false) + ",\"out\":" + DecodedJson(*e.fn, e.out, true) +
+  line += ",\"decoded\":{\"in\":" + DecodedJson(*e.fn, e.args, e.in, false) + ",\"out\":" + DecodedJson(*e.fn, e.args, e.out, true) +
           "}}";
   return line;
 }
