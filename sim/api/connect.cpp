@@ -5,49 +5,31 @@
 
 #include "record/api_call.h"
 #include "api/connect.h"
+#include "record/capture_record.h"
 #include "record/captured_fields.h"
+#include "record/session_layouts.h"
 #include "reader/session_store.h"
 
 namespace sim {
 namespace {
 
-constexpr size_t kConnectionInfoBytes = 48;
-constexpr size_t kSecConnectionInfoBytes = 104;
-constexpr size_t kSecConnInfoAt = 8;
-constexpr size_t kLoginInfoBytes = 3144;
-constexpr size_t kAcceptInfoBytes = 8;
-
 // Written into the caller's handle slot by a failing call that has no
 // scripted output: no issued handle ever takes this value.
 constexpr int64_t kHandleOnFailure = 0x0BAD0BAD;
-
-// The four buffers of the secure connection record: where their size and
-// their pointer are.
-struct SecureBuffer {
-  const char* name;
-  size_t sizeAt;
-  size_t pointerAt;
-};
-constexpr SecureBuffer kSecureBuffers[] = {
-    {"clientCertBuff", 4, 8},
-    {"clientKeyBuff", 16, 24},
-    {"phraseBuff", 32, 40},
-    {"rootCertBuff", 48, 56},
-};
 
 struct Origin {
   std::map<std::string, Blob> blobs;
 };
 
+// The connection record, its secure record and the secure record's buffers:
+// each is recorded, absent under a NULL, even when the record holding its
+// pointer is absent itself.
 void captureConnectionInfo(ApiCall& call, const void* connInfo) {
-  call.blob("connInfo", connInfo, kConnectionInfoBytes);
-  call.blob("connInfo.secConnInfo", pointerAt(call.captured("connInfo"), kSecConnInfoAt),
-            kSecConnectionInfoBytes);
-  const Blob& secure = call.captured("connInfo.secConnInfo");
-  for (const SecureBuffer& buffer : kSecureBuffers) {
-    call.blob(std::string("connInfo.secConnInfo.") + buffer.name, pointerAt(secure, buffer.pointerAt),
-              fieldAt<uint32_t>(secure, buffer.sizeAt));
-  }
+  static const size_t secConnInfoAt = layout::OffsetOf(layout::ConnectionInfo(), "secConnInfo", 8);
+  const std::string secure = "connInfo.secConnInfo";
+  call.blob("connInfo", connInfo, layout::ConnectionInfo().size);
+  call.blob(secure, pointerAt(call.captured("connInfo"), secConnInfoAt), layout::SecConnectionInfo().size);
+  layout::capturePointees(call, secure, secure, 0, layout::SecConnectionInfo());
 }
 
 // Settles a call that issues a handle. On success a session opens and the
@@ -111,7 +93,7 @@ int32_t RFID_Disconnect(int64_t handle) {
 
 int32_t RFID_LoginW(int64_t* handleOut, void* loginInfo, uint32_t readerKind, uint8_t flag, void* reserved) {
   ApiCall call("RFID_LoginW", kNoHandle, handleOut, loginInfo, readerKind, flag, reserved);
-  call.blob("loginInfo", loginInfo, sim::kLoginInfoBytes);
+  call.blob("loginInfo", loginInfo, sim::layout::LoginInfo().size);
   call.require(handleOut);
   call.require(loginInfo);
   return sim::answerWithHandle(call, handleOut);
@@ -129,7 +111,7 @@ int32_t RFID_Restart(int64_t handle) {
 
 int32_t RFID_AcceptConnection(int64_t* handleOut, int64_t passThrough, void* acceptInfo, void* scratchOut) {
   ApiCall call("RFID_AcceptConnection", kNoHandle, handleOut, passThrough, acceptInfo, scratchOut);
-  call.blob("acceptInfo", acceptInfo, sim::kAcceptInfoBytes);
+  call.blob("acceptInfo", acceptInfo, sim::layout::AcceptConnectionInfo().size);
   call.require(handleOut);
   call.require(acceptInfo);
   return sim::answerWithHandle(call, handleOut);

@@ -4,21 +4,15 @@
 
 #include "record/api_call.h"
 #include "reader/last_error.h"
+#include "record/capture_record.h"
 #include "record/captured_fields.h"
+#include "record/session_layouts.h"
 #include "reader/session_store.h"
-#include "reader/last_error.h"
 
 namespace sim {
 namespace {
 
-constexpr size_t kLlrpConfigBytes = 1096;
-constexpr size_t kLlrpPortAt = 4;
-constexpr size_t kLlrpSecureAt = 1048;
-constexpr size_t kSecureLlrpBytes = 40;
-constexpr size_t kLlrpScratchBytes = 24;
 constexpr uint32_t kDefaultLlrpPort = 5084;
-constexpr size_t kErrorInfoBytes = 2120;
-constexpr size_t kVersionBytes = 1048;
 
 // The LLRP configuration last set on a reader, its secure record apart (the
 // caller's pointer to it dies with the call).
@@ -28,19 +22,21 @@ struct LlrpConfig {
 };
 
 LlrpConfig defaultLlrpConfig() {
+  static const size_t portAt = layout::OffsetOf(layout::LlrpConnectionConfig(), "port", 4);
   LlrpConfig config;
-  config.record.assign(kLlrpConfigBytes, 0);
-  putField(&config.record, kLlrpPortAt, kDefaultLlrpPort);
+  config.record.assign(layout::LlrpConnectionConfig().size, 0);
+  putField(&config.record, portAt, kDefaultLlrpPort);
   return config;
 }
 
 // The record the getter answers with: its secure pointer leads to a copy
 // that stays valid until reset, since the caller reads it after the call.
 std::vector<uint8_t> llrpAnswer(int64_t handle) {
+  static const size_t secureAt = layout::OffsetOf(layout::LlrpConnectionConfig(), "pSecureModeConfig", 8);
   LlrpConfig config = defaultLlrpConfig();
   SessionStore<LlrpConfig>::instance().get(handle, &config);
   uint64_t secure = config.secure.present ? raw(keepAlive(config.secure.bytes)) : 0;
-  putField(&config.record, kLlrpSecureAt, secure);
+  putField(&config.record, secureAt, secure);
   return config.record;
 }
 
@@ -57,15 +53,15 @@ extern "C" {
 // answer overwrites it.
 int32_t RFID_GetLLRPConnectionConfigW(int64_t handle, void* config) {
   ApiCall call("RFID_GetLLRPConnectionConfigW", handle, config);
-  call.outputs({{config, sim::kLlrpConfigBytes, "config"}}, sim::llrpAnswer(handle));
+  call.outputs({{config, sim::layout::LlrpConnectionConfig().size, "config"}}, sim::llrpAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_SetLLRPConnectionConfigW(int64_t handle, void* config) {
   ApiCall call("RFID_SetLLRPConnectionConfigW", handle, config);
-  call.blob("config", config, sim::kLlrpConfigBytes);
-  call.blob("config.pSecureModeConfig", sim::pointerAt(call.captured("config"), sim::kLlrpSecureAt),
-            sim::kSecureLlrpBytes);
+  // The secure record is recorded (absent) even under a NULL config.
+  call.blob("config", config, sim::layout::LlrpConnectionConfig().size);
+  sim::layout::capturePointees(call, "config", "config", 0, sim::layout::LlrpConnectionConfig());
   call.require(config);
   int32_t status = call.finish();
   if (status == sim::kSuccess) {
@@ -78,7 +74,7 @@ int32_t RFID_SetLLRPConnectionConfigW(int64_t handle, void* config) {
 int32_t RFID_InitiateLLRPConnectionFromReader(int64_t handle, void* scratch) {
   ApiCall call("RFID_InitiateLLRPConnectionFromReader", handle, scratch);
   call.require(scratch);
-  call.outputs({{scratch, sim::kLlrpScratchBytes}});
+  call.outputs({{scratch, sim::layout::LlrpInitiateScratch().size}});
   return call.finish();
 }
 
@@ -90,7 +86,7 @@ int32_t RFID_DisconnectLLRPConnectionFromReader(int64_t handle) {
 int32_t RFID_GetLastErrorInfoW(int64_t handle, void* errorInfo) {
   ApiCall call("RFID_GetLastErrorInfoW", handle, errorInfo);
   call.require(errorInfo);
-  call.outputs({{errorInfo, sim::kErrorInfoBytes}}, sim::lastErrorRecord(handle));
+  call.outputs({{errorInfo, sim::layout::ErrorInfo().size}}, sim::lastErrorRecord(handle));
   return call.finish();
 }
 
@@ -107,9 +103,10 @@ const wchar_t* RFID_GetErrorDescriptionW(int32_t status) {
 int32_t RFID_GetDllVersionInfoW(void* versionInfo) {
   ApiCall call("RFID_GetDllVersionInfoW", kNoHandle, versionInfo);
   call.require(versionInfo);
-  std::vector<uint8_t> version(sim::kVersionBytes, 0);
-  sim::putWide(&version, 0, L"halyard-sim 1.0");
-  call.outputs({{versionInfo, sim::kVersionBytes}}, version);
+  static const size_t textAt = sim::layout::OffsetOf(sim::layout::VersionInfo(), "dllVersion", 0);
+  std::vector<uint8_t> version(sim::layout::VersionInfo().size, 0);
+  sim::putWide(&version, textAt, L"halyard-sim 1.0");
+  call.outputs({{versionInfo, version.size()}}, version);
   return call.finish();
 }
 

@@ -14,8 +14,13 @@
 #include "reader/state.h"
 #include "reader/population.h"
 #include "reader/tag_records.h"
+#include "record/session_layouts.h"
 
 namespace {
+
+using sim::layout::EventData;
+using sim::layout::OffsetOf;
+using sim::layout::Record;
 
 void throwIllegalArgument(JNIEnv* env, const std::string& message) {
   jclass cls = env->FindClass("java/lang/IllegalArgumentException");
@@ -67,9 +72,10 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_setGpi(JNIEnv* env
   sim::ReaderPtr r = reader(env, handle);
   if (!r) return;
   sim::recordGpiChange(*r, static_cast<uint16_t>(port), state != JNI_FALSE);
-  std::vector<uint8_t> data(16, 0);
-  sim::store<int16_t>(data.data(), 0, static_cast<int16_t>(port));
-  data[2] = state != JNI_FALSE ? 1 : 0;
+  static const Record& gpi = EventData(sim::kGpiEvent);
+  std::vector<uint8_t> data(gpi.size, 0);
+  sim::store<int16_t>(data.data(), OffsetOf(gpi, "port", 2), static_cast<int16_t>(port));
+  sim::store<uint8_t>(data.data(), OffsetOf(gpi, "eventInfo", 1), state != JNI_FALSE ? 1 : 0);
   sim::raiseEvent(handle, sim::kGpiEvent, std::move(data));
 }
 
@@ -146,9 +152,10 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_connectAntenna(JNI
       r->field.disconnected.insert(static_cast<uint16_t>(antenna));
     }
   }
-  std::vector<uint8_t> data(16, 0);
-  sim::store<int16_t>(data.data(), 0, static_cast<int16_t>(antenna));
-  sim::store<int32_t>(data.data(), 4, connected != JNI_FALSE ? 1 : 0);
+  static const Record& change = EventData(sim::kAntennaEvent);
+  std::vector<uint8_t> data(change.size, 0);
+  sim::store<int16_t>(data.data(), OffsetOf(change, "antennaID", 2), static_cast<int16_t>(antenna));
+  sim::store<int32_t>(data.data(), OffsetOf(change, "antennaEvent", 4), connected != JNI_FALSE ? 1 : 0);
   sim::raiseEvent(handle, sim::kAntennaEvent, std::move(data));
 }
 
@@ -162,9 +169,10 @@ JNIEXPORT void JNICALL Java_com_kovra_rfid_orla_sim_SimReader_setTemperature(JNI
     if (level == r->field.temperatureLevel) return;
     r->field.temperatureLevel = level;
   }
-  std::vector<uint8_t> data(16, 0);
-  sim::store<int32_t>(data.data(), 4, celsius);
-  sim::store<int32_t>(data.data(), 8, level);
+  static const Record& alarm = EventData(sim::kTemperatureAlarmEvent);
+  std::vector<uint8_t> data(alarm.size, 0);
+  sim::store<int32_t>(data.data(), OffsetOf(alarm, "currentTemperature", 4), celsius);
+  sim::store<int32_t>(data.data(), OffsetOf(alarm, "alarmLevel", 4), level);
   sim::raiseEvent(handle, sim::kTemperatureAlarmEvent, std::move(data));
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "reader/event_objects.h"
+#include "record/session_layouts.h"
 
 namespace sim {
 namespace {
@@ -29,16 +30,11 @@ void eraseReader(Map& map, int64_t reader) {
   }
 }
 
-constexpr size_t kEventDataSize = 16;
-constexpr size_t kExceptionDataSize = 1088;
-
 }  // namespace
 
 bool isEventType(uint32_t type) { return type <= kGpsDataEvent; }
 
-size_t eventDataCapacity(uint32_t type) {
-  return type == kReaderExceptionEvent ? kExceptionDataSize : kEventDataSize;
-}
+size_t eventDataCapacity(uint32_t type) { return layout::EventData(type).size; }
 
 void registerEvent(int64_t reader, uint32_t type, int64_t event) {
   std::lock_guard<std::mutex> lock(registry().mutex);

@@ -3,6 +3,8 @@
 #include <cwchar>
 
 #include "record/captured_fields.h"
+#include "record/record_layouts.h"
+#include "record/session_layouts.h"
 #include "reader/sessions.h"
 #include "reader/session_store.h"
 #include "reader/status.h"
@@ -10,12 +12,6 @@
 
 namespace sim {
 namespace {
-
-constexpr size_t kErrorInfoBytes = 2120;
-constexpr size_t kStatusCodeAt = 16;
-constexpr size_t kStatusDescAt = 20;
-constexpr size_t kVendorMessageAt = 1060;
-constexpr size_t kVendorMessageChars = (kErrorInfoBytes - kVendorMessageAt) / sizeof(wchar_t);
 
 struct LastError {
   SystemTime time{};
@@ -71,11 +67,17 @@ int32_t rememberFailure(int64_t handle, int32_t status, const char* fn, const st
 std::vector<uint8_t> lastErrorRecord(int64_t handle) {
   LastError error;
   SessionStore<LastError>::instance().get(handle, &error);
-  std::vector<uint8_t> record(kErrorInfoBytes, 0);
-  for (size_t i = 0; i < error.time.size(); ++i) putField<uint16_t>(&record, 2 * i, error.time[i]);
-  putField<int32_t>(&record, kStatusCodeAt, error.status);
-  putWide(&record, kStatusDescAt, describeStatus(error.status));
-  putWide(&record, kVendorMessageAt, widened(error.text, kVendorMessageChars).c_str());
+  using layout::ErrorInfo;
+  using layout::OffsetOf;
+  static const size_t timeAt = OffsetOf(ErrorInfo(), "errorTimeStamp", 0);
+  static const size_t statusAt = OffsetOf(ErrorInfo(), "rfidStatusCode", 4);
+  static const size_t descriptionAt = OffsetOf(ErrorInfo(), "statusDesc", 0);
+  static const size_t messageAt = OffsetOf(ErrorInfo(), "vendorMessage", 0);
+  std::vector<uint8_t> record(ErrorInfo().size, 0);
+  storeSystemTime(record.data(), timeAt, error.time);
+  putField<int32_t>(&record, statusAt, error.status);
+  putWide(&record, descriptionAt, describeStatus(error.status));
+  putWide(&record, messageAt, widened(error.text, (record.size() - messageAt) / sizeof(wchar_t)).c_str());
   return record;
 }
 

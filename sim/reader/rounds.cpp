@@ -5,6 +5,7 @@
 #include "reader/event_signals.h"
 #include "reader/field.h"
 #include "reader/tag_read.h"
+#include "record/session_layouts.h"
 
 namespace sim {
 namespace {
@@ -102,12 +103,15 @@ std::vector<Bytes> locateRound(Reader& reader, const Population& tags,
 }
 
 void easRound(Reader& reader, const Population& tags, const std::vector<uint16_t>& antennas) {
+  static const layout::Record& kAlarm = layout::EventData(kNxpEasAlarmEvent);
+  static const size_t kCodeAt = layout::OffsetOf(kAlarm, "alarmCode", 8);
+  static const size_t kAntennaAt = layout::OffsetOf(kAlarm, "antennaID", 2);
   for (uint16_t antenna : antennas) {
     for (const SimTag& tag : tags) {
       if (!tag.eas || !tag.inFieldOf(antenna)) continue;
-      std::vector<uint8_t> data(16, 0);
-      store<int64_t>(data.data(), 0, easAlarmCode(tag));
-      store<int16_t>(data.data(), 8, static_cast<int16_t>(antenna));
+      std::vector<uint8_t> data(kAlarm.size, 0);
+      store<int64_t>(data.data(), kCodeAt, easAlarmCode(tag));
+      store<int16_t>(data.data(), kAntennaAt, static_cast<int16_t>(antenna));
       raiseEvent(reader.handle, kNxpEasAlarmEvent, std::move(data));
     }
   }

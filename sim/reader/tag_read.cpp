@@ -3,7 +3,13 @@
 #include <chrono>
 #include <ctime>
 
+#include "reader/memory_fields.h"
+
 namespace sim {
+
+void storeSystemTime(void* record, size_t offset, const SystemTime& t) {
+  for (size_t i = 0; i < t.size(); ++i) store<uint16_t>(record, offset + sizeof(uint16_t) * i, t[i]);
+}
 
 SystemTime utcNow() {
   using namespace std::chrono;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
@@ -15,6 +16,8 @@ namespace sim {
 using SystemTime = std::array<uint16_t, 8>;
 
 SystemTime utcNow();
+// Writes t as the 16 bytes of a SYSTEMTIME at offset of a record.
+void storeSystemTime(void* record, size_t offset, const SystemTime& t);
 
 struct SeenStamp {
   SystemTime utc{};

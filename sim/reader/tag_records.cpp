@@ -8,40 +8,45 @@
 #include <mutex>
 
 #include "reader/memory_fields.h"
+#include "record/record_layouts.h"
 
 namespace sim {
 namespace {
 
-// Fields of TAG_DATA by byte offset.
-constexpr size_t kMemoryAllocated = 0;
-constexpr size_t kMemoryUsed = 4;
-constexpr size_t kTagIdPtr = 8;
-constexpr size_t kTagIdLength = 16;
-constexpr size_t kTagIdAllocated = 20;
-constexpr size_t kPc = 24;
-constexpr size_t kXpc = 28;
-constexpr size_t kCrc = 32;
-constexpr size_t kAntennaId = 34;
-constexpr size_t kFirstSeen = 40;
-constexpr size_t kLastSeenUtc = 56;
-constexpr size_t kLastSeenUpTime = 48;
-constexpr size_t kPeakRssi = 72;
-constexpr size_t kChannelIndex = 74;
-constexpr size_t kTagSeenCount = 76;
-constexpr size_t kOpCode = 80;
-constexpr size_t kOpStatus = 84;
-constexpr size_t kMemoryBank = 88;
-constexpr size_t kMemoryBankDataPtr = 96;
-constexpr size_t kMemoryBankDataByteOffset = 104;
-constexpr size_t kMemoryBankDataLength = 108;
-constexpr size_t kMemoryBankDataAllocated = 112;
-constexpr size_t kTagEvent = 116;
-constexpr size_t kTagEventTimeStamp = 120;
-constexpr size_t kLocationInfoPtr = 136;
-constexpr size_t kOpResultPtr = 144;
-constexpr size_t kPhaseInfo = 168;
+// Fields of TAG_DATA, resolved by name once when the library loads.
+size_t At(const char* path, size_t bytes) { return layout::OffsetOf(layout::TagData(), path, bytes); }
 
-constexpr uint32_t kMemoryUsedBytes = 192;  // the bytes up to the GPS pointer
+const size_t kMemoryAllocated = At("memoryAllocated", 4);
+const size_t kMemoryUsed = At("memoryUsed", 4);
+const size_t kTagIdPtr = At("pTagID", 8);
+const size_t kTagIdLength = At("tagIDLength", 4);
+const size_t kTagIdAllocated = At("tagIDAllocated", 4);
+const size_t kPc = At("PC", 2);
+const size_t kXpc = At("XPC", 4);
+const size_t kCrc = At("CRC", 2);
+const size_t kAntennaId = At("antennaID", 2);
+const size_t kFirstSeenUtc = At("seenTime.utcTime.firstSeenTimeStamp", 0);
+const size_t kLastSeenUtc = At("seenTime.utcTime.lastSeenTimeStamp", 0);
+const size_t kFirstSeenUpTime = At("seenTime.upTime.firstSeenTimeStamp", 8);
+const size_t kLastSeenUpTime = At("seenTime.upTime.lastSeenTimeStamp", 8);
+const size_t kPeakRssi = At("peakRSSI", 1);
+const size_t kChannelIndex = At("channelIndex", 2);
+const size_t kTagSeenCount = At("tagSeenCount", 2);
+const size_t kOpCode = At("opCode", 4);
+const size_t kOpStatus = At("opStatus", 4);
+const size_t kMemoryBank = At("memoryBank", 4);
+const size_t kMemoryBankDataPtr = At("pMemoryBankData", 8);
+const size_t kMemoryBankDataByteOffset = At("memoryBankDataByteOffset", 4);
+const size_t kMemoryBankDataLength = At("memoryBankDataLength", 4);
+const size_t kMemoryBankDataAllocated = At("memoryBankDataAllocated", 4);
+const size_t kTagEvent = At("tagEvent", 4);
+const size_t kTagEventTimeStamp = At("tagEventTimeStamp", 0);
+const size_t kLocationInfoPtr = At("pLocationInfo", 8);
+const size_t kOpResultPtr = At("pOpResult", 8);
+const size_t kPhaseInfo = At("phaseInfo", 2);
+
+// The bytes up to the GPS pointer: the record as described.
+const uint32_t kMemoryUsedBytes = static_cast<uint32_t>(layout::TagData().size);
 
 struct OwnedRecord {
   int64_t reader = 0;
@@ -68,16 +73,12 @@ Records& records() {
   return r;
 }
 
-void storeSystemTime(uint8_t* record, size_t offset, const SystemTime& t) {
-  for (size_t i = 0; i < t.size(); ++i) store<uint16_t>(record, offset + 2 * i, t[i]);
-}
-
 void fillSeenTimes(uint8_t* record, const TagRead& read, bool upTime) {
   if (upTime) {
-    store<uint64_t>(record, kFirstSeen, read.firstSeen.upTimeMicros);
+    store<uint64_t>(record, kFirstSeenUpTime, read.firstSeen.upTimeMicros);
     store<uint64_t>(record, kLastSeenUpTime, read.lastSeen.upTimeMicros);
   } else {
-    storeSystemTime(record, kFirstSeen, read.firstSeen.utc);
+    storeSystemTime(record, kFirstSeenUtc, read.firstSeen.utc);
     storeSystemTime(record, kLastSeenUtc, read.lastSeen.utc);
   }
 }
