@@ -21,7 +21,7 @@ namespace sim {
 //   return rememberFailure(handle, kNotFound, "RFID_Read", "no tag ...");
 int32_t rememberFailure(int64_t handle, int32_t status, const char* fn, const std::string& detail = {});
 
-// The ERROR_INFO record (2120 bytes) of the reader's last failure: time
+// The ERROR_INFO record of the reader's last failure: time
 // stamp (SYSTEMTIME, UTC), status, the status's description and the text.
 // Before any failure: status 0, "Success", no time and no text.
 std::vector<uint8_t> lastErrorRecord(int64_t handle);
