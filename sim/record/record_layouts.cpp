@@ -1,26 +1,9 @@
 #include "record/record_layouts.h"
 
+#include "record/field_builders.h"
+
 namespace sim::layout {
 namespace {
-
-Field Scalar(const char* name, size_t offset, Kind kind) { return Field{name, offset, kind}; }
-
-Field PointerTo(const char* name, size_t offset, const Record& record, const When* when = nullptr) {
-  return Field{name, offset, Kind::Pointer, &record, {}, 1, when};
-}
-
-Field PointerToBytes(const char* name, size_t offset, Length length) {
-  return Field{name, offset, Kind::Pointer, nullptr, length};
-}
-
-Field Inside(const char* name, size_t offset, const Record& record, size_t count = 1) {
-  return Field{name, offset, Kind::Embedded, &record, {}, count};
-}
-
-Field Variant(const When& when, Field field) {
-  field.when = &when;
-  return field;
-}
 
 // START_TRIGGER and STOP_TRIGGER select their variant by the type at 0.
 constexpr When kStartPeriodic{0, 1};
@@ -36,7 +19,7 @@ constexpr When kStopHandheld{0, 5};
 constexpr When kStopTimelapse{0, 6};
 
 // Every tag access parameter record ends with four reserved words.
-Field Reserved(size_t offset) { return Field{"reserved", offset, Kind::Bytes, nullptr, {}, 32}; }
+Field Reserved(size_t offset) { return InlineBytes("reserved", offset, 32); }
 
 }  // namespace
 
