@@ -15,27 +15,14 @@
 #include "reader/admin.h"
 #include "reader/default_caps.h"
 #include "record/captured_fields.h"
+#include "record/capture_record.h"
+#include "record/config_layouts.h"
+#include "record/named_fields.h"
+#include "record/record_layouts.h"
 #include "reader/status.h"
 
 namespace sim {
 namespace {
-
-// Sizes of the records as the library provides them.
-constexpr size_t kReaderCapsBytes = kReaderCapsRecordBytes;
-constexpr size_t kAntennaRfConfigBytes = kAntennaRfConfigKept;
-constexpr size_t kAntennaRfConfigBlockBytes = 320;  // what the setter is handed
-constexpr size_t kCableLossBytes = kCableLossRecordBytes;
-constexpr size_t kUsbSettingsBytes = 8;
-constexpr size_t kDebounceBytes = 16;
-constexpr size_t kLedInfoBytes = 48;
-constexpr size_t kSystemInfoBytes = 5336;
-constexpr size_t kReaderInfoBytes = 4160;
-constexpr size_t kSystemTimeBytes = 16;
-constexpr size_t kNameListBytes = 24;  // count, pointer to names, active index
-constexpr size_t kReaderStatsBytes = 192;
-constexpr size_t kUpdateInfoBytes = 3120;
-constexpr size_t kUpdateStatusBytes = 1144;
-constexpr size_t kUserAppListBytes = 16;
 
 // The cable-loss list holds as many record pointers as the call says; a
 // count beyond this is not believed.
@@ -50,7 +37,7 @@ uint16_t captureCableLoss(ApiCall& call, uint16_t count, const void* records) {
   const Blob& list = call.captured("cableLoss");
   if (!list.present || list.faulted) return 0;
   for (uint16_t i = 0; i < count; ++i) {
-    call.blob(cableLossName(i), pointerAt(list, i * sizeof(void*)), kCableLossBytes);
+    layout::captureRecord(call, cableLossName(i), pointerAt(list, i * sizeof(void*)), layout::CableLossCompensation());
   }
   return count;
 }
@@ -75,7 +62,7 @@ extern "C" {
 // Without a script, a four-port reader (see reader_caps_default.h).
 int32_t RFID_GetReaderCapsW(int64_t handle, void* caps) {
   ApiCall call("RFID_GetReaderCapsW", handle, caps);
-  call.outputs({{caps, sim::kReaderCapsBytes, "caps"}}, sim::defaultReaderCaps());
+  call.outputs({{caps, sim::layout::ReaderCaps().size, "caps"}}, sim::defaultReaderCaps());
   return call.finish();
 }
 
@@ -104,14 +91,14 @@ int32_t RFID_GetAntennaConfig(int64_t handle, uint16_t antennaID, uint16_t* firs
 int32_t RFID_GetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
   ApiCall call("RFID_GetAntennaRfConfig", handle, antennaID, config);
   call.refuse(sim::antennaProblem(antennaID));
-  call.outputs({{config, sim::kAntennaRfConfigBytes, "config"}}, sim::antennaRfConfigOf(handle, antennaID));
+  call.outputs({{config, sim::layout::AntennaRfConfig().size, "config"}}, sim::antennaRfConfigOf(handle, antennaID));
   return call.finish();
 }
 
 // The whole block is captured; a NULL configuration is refused.
 int32_t RFID_SetAntennaRfConfig(int64_t handle, uint16_t antennaID, void* config) {
   ApiCall call("RFID_SetAntennaRfConfig", handle, antennaID, config);
-  call.blob("config", config, sim::kAntennaRfConfigBlockBytes);
+  sim::layout::captureRecord(call, "config", config, sim::layout::AntennaRfConfigBlock());
   call.require(config);
   call.refuse(sim::antennaProblem(antennaID));
   call.refuse(sim::rfConfigProblem(call.captured("config")));
@@ -133,10 +120,11 @@ int32_t RFID_SetCableLossCompensation(int64_t handle, uint16_t count, void* reco
 
 int32_t RFID_GetCableLossCompensation(int64_t handle, void* record) {
   ApiCall call("RFID_GetCableLossCompensation", handle, record);
-  call.blob("cableLoss", record, sim::kCableLossBytes);
+  const sim::layout::Record& cableLoss = sim::layout::CableLossCompensation();
+  sim::layout::captureRecord(call, "cableLoss", record, cableLoss);
   call.require(record);
-  const uint16_t antennaID = sim::fieldAt<uint16_t>(call.captured("cableLoss"), 0);
-  call.outputs({{record, sim::kCableLossBytes}}, sim::cableLossOf(handle, antennaID));
+  const auto antennaID = sim::namedField<uint16_t>(call.captured("cableLoss"), cableLoss, "antennaID");
+  call.outputs({{record, cableLoss.size}}, sim::cableLossOf(handle, antennaID));
   return call.finish();
 }
 
@@ -251,18 +239,19 @@ int32_t RFID_GetPowerNegotiationState(int64_t handle, uint8_t* state) {
 
 int32_t RFID_GetUSBOperationMode(int64_t handle, void* settings) {
   ApiCall call("RFID_GetUSBOperationMode", handle, settings);
-  call.outputs({{settings, sim::kUsbSettingsBytes, "settings"}}, sim::keptRadioIo(handle).usbSettings);
+  call.outputs({{settings, sim::layout::UsbOperationModeSettings().size, "settings"}}, sim::keptRadioIo(handle).usbSettings);
   return call.finish();
 }
 
 // A NULL record is refused; one that could not be read is not kept.
 int32_t RFID_SetUSBOperationMode(int64_t handle, void* settings) {
   ApiCall call("RFID_SetUSBOperationMode", handle, settings);
-  call.blob("settings", settings, sim::kUsbSettingsBytes);
+  const sim::layout::Record& usb = sim::layout::UsbOperationModeSettings();
+  sim::layout::captureRecord(call, "settings", settings, usb);
   call.require(settings);
   const std::vector<uint8_t> sent = call.captured("settings").bytes;
   return sim::keepRadioIo(handle, call.finish(), [&](sim::RadioIoSettings& kept) {
-    if (sent.size() == sim::kUsbSettingsBytes) kept.usbSettings = sent;
+    if (sent.size() == usb.size) kept.usbSettings = sent;
   });
 }
 
@@ -295,22 +284,22 @@ int32_t RFID_GetGPOState(int64_t handle, int32_t port, uint8_t* state) {
 // output covers its value and then the record, which is in and out.
 int32_t RFID_SetGPIDebounceTime(int64_t handle, int32_t value, void* debounce) {
   ApiCall call("RFID_SetGPIDebounceTime", handle, value, debounce);
-  call.blob("debounce", debounce, sim::kDebounceBytes);
+  sim::layout::captureRecord(call, "debounce", debounce, sim::layout::GpiDebounce());
   call.require(debounce);
   return call.finish();
 }
 
 int32_t RFID_GetGPIDebounceTime(int64_t handle, uint32_t* value, void* debounce) {
   ApiCall call("RFID_GetGPIDebounceTime", handle, value, debounce);
-  call.blob("debounce", debounce, sim::kDebounceBytes);
+  sim::layout::captureRecord(call, "debounce", debounce, sim::layout::GpiDebounce());
   call.require(debounce);
-  call.outputs({{value, 4, "value"}, {debounce, sim::kDebounceBytes}});
+  call.outputs({{value, 4, "value"}, {debounce, sim::layout::GpiDebounce().size}});
   return call.finish();
 }
 
 int32_t RFID_SetUserLED(int64_t handle, void* ledInfo) {
   ApiCall call("RFID_SetUserLED", handle, ledInfo);
-  call.blob("ledInfo", ledInfo, sim::kLedInfoBytes);
+  sim::layout::captureRecord(call, "ledInfo", ledInfo, sim::layout::LedInfo());
   call.require(ledInfo);
   return call.finish();
 }
@@ -321,19 +310,19 @@ int32_t RFID_SetUserLED(int64_t handle, void* ledInfo) {
 
 int32_t RFID_GetSystemInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_GetSystemInfoW", handle, info);
-  call.outputs({{info, sim::kSystemInfoBytes, "info"}}, sim::systemInfoAnswer(handle));
+  call.outputs({{info, sim::layout::SystemInfo().size, "info"}}, sim::systemInfoAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_GetReaderInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_GetReaderInfoW", handle, info);
-  call.outputs({{info, sim::kReaderInfoBytes, "info"}}, sim::readerInfoAnswer(handle));
+  call.outputs({{info, sim::layout::ReaderInfo().size, "info"}}, sim::readerInfoAnswer(handle));
   return call.finish();
 }
 
 int32_t RFID_SetReaderInfoW(int64_t handle, void* info) {
   ApiCall call("RFID_SetReaderInfoW", handle, info);
-  call.blob("info", info, sim::kReaderInfoBytes);
+  sim::layout::captureRecord(call, "info", info, sim::layout::ReaderInfo());
   call.require(info);
   const int32_t status = call.finish();
   return status == sim::kSuccess ? sim::keepReaderInfo(handle, call.captured("info")) : status;
@@ -341,14 +330,14 @@ int32_t RFID_SetReaderInfoW(int64_t handle, void* info) {
 
 int32_t RFID_GetLocalTime(int64_t handle, void* time) {
   ApiCall call("RFID_GetLocalTime", handle, time);
-  call.outputs({{time, sim::kSystemTimeBytes, "time"}}, sim::localTimeAnswer(handle));
+  call.outputs({{time, sim::layout::SystemTime().size, "time"}}, sim::localTimeAnswer(handle));
   return call.finish();
 }
 
 // An impossible date or time is refused.
 int32_t RFID_SetLocalTime(int64_t handle, void* time) {
   ApiCall call("RFID_SetLocalTime", handle, time);
-  call.blob("time", time, sim::kSystemTimeBytes);
+  sim::layout::captureRecord(call, "time", time, sim::layout::SystemTime());
   call.require(time);
   const int32_t status = call.finish();
   return status == sim::kSuccess ? sim::setLocalTime(handle, call.captured("time")) : status;
@@ -356,7 +345,7 @@ int32_t RFID_SetLocalTime(int64_t handle, void* time) {
 
 int32_t RFID_GetTimeZoneListW(int64_t handle, void* list) {
   ApiCall call("RFID_GetTimeZoneListW", handle, list);
-  call.outputs({{list, sim::kNameListBytes, "list"}}, sim::timeZoneListAnswer(handle));
+  call.outputs({{list, sim::layout::TimeZoneList().size, "list"}}, sim::timeZoneListAnswer(handle));
   return call.finish();
 }
 
@@ -370,7 +359,7 @@ int32_t RFID_SetTimeZone(int64_t handle, uint16_t index) {
 int32_t RFID_GetReaderStats(int64_t handle, uint16_t antennaID, void* stats) {
   ApiCall call("RFID_GetReaderStats", handle, antennaID, stats);
   call.refuse(sim::antennaProblem(antennaID));
-  call.outputs({{stats, sim::kReaderStatsBytes, "stats"}});
+  call.outputs({{stats, sim::layout::ReaderStats().size, "stats"}});
   return call.finish();
 }
 
@@ -392,7 +381,7 @@ int32_t RFID_GetHealthStatus(int64_t handle, uint32_t query, int32_t* status, vo
 
 int32_t RFID_GetProfileListW(int64_t handle, void* list) {
   ApiCall call("RFID_GetProfileListW", handle, list);
-  call.outputs({{list, sim::kNameListBytes, "list"}}, sim::profileListAnswer(handle));
+  call.outputs({{list, sim::layout::ProfileList().size, "list"}}, sim::profileListAnswer(handle));
   return call.finish();
 }
 
@@ -429,7 +418,7 @@ int32_t RFID_SetActiveProfileW(int64_t handle, const wchar_t* name) {
 
 int32_t RFID_UpdateSoftwareW(int64_t handle, void* updateInfo) {
   ApiCall call("RFID_UpdateSoftwareW", handle, updateInfo);
-  call.blob("updateInfo", updateInfo, sim::kUpdateInfoBytes);
+  sim::layout::captureRecord(call, "updateInfo", updateInfo, sim::layout::UpdateInfo());
   call.require(updateInfo);
   const int32_t status = call.finish();
   return status == sim::kSuccess ? sim::updateSoftware(handle, call.captured("updateInfo")) : status;
@@ -437,7 +426,7 @@ int32_t RFID_UpdateSoftwareW(int64_t handle, void* updateInfo) {
 
 int32_t RFID_GetUpdateStatusW(int64_t handle, void* status) {
   ApiCall call("RFID_GetUpdateStatusW", handle, status);
-  call.outputs({{status, sim::kUpdateStatusBytes, "status"}}, sim::updateStatusAnswer(handle));
+  call.outputs({{status, sim::layout::UpdateStatus().size, "status"}}, sim::updateStatusAnswer(handle));
   return call.finish();
 }
 
@@ -492,7 +481,7 @@ int32_t RFID_SetUserAppAutoStartW(int64_t handle, const wchar_t* name, uint8_t a
 
 int32_t RFID_ListUserAppsW(int64_t handle, void* list) {
   ApiCall call("RFID_ListUserAppsW", handle, list);
-  call.outputs({{list, sim::kUserAppListBytes, "list"}}, sim::userAppListAnswer(handle));
+  call.outputs({{list, sim::layout::UserAppList().size, "list"}}, sim::userAppListAnswer(handle));
   return call.finish();
 }
 

@@ -73,7 +73,7 @@ int32_t RFID_DeletePreFilter(int64_t handle, uint16_t antenna, uint32_t index) {
 
 int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {
   Recorder rec("RFID_GetTagStorageSettings", {raw(handle), raw(settings)});
-  rec.blob("tagStorageSettings", settings, sizeof(TagStorageSettings::raw));  // as preset
+  rec.blob("tagStorageSettings", settings, layout::TagStorageSettings().size);  // as preset
   const bool usable = settings != nullptr && !rec.captured("tagStorageSettings").faulted;
   const CallOutcome call = finishCall(rec, handle, usable);
   if (!usable) return call.refused();
@@ -89,7 +89,7 @@ int32_t RFID_GetTagStorageSettings(int64_t handle, void* settings) {
 
 int32_t RFID_SetTagStorageSettings(int64_t handle, void* settings) {
   Recorder rec("RFID_SetTagStorageSettings", {raw(handle), raw(settings)});
-  rec.blob("tagStorageSettings", settings, sizeof(TagStorageSettings::raw));
+  rec.blob("tagStorageSettings", settings, layout::TagStorageSettings().size);
   const Blob& captured = rec.captured("tagStorageSettings");
   const CallOutcome call = finishCall(rec, handle, !captured.faulted);
   if (!call.proceeds()) return call.status;
@@ -101,7 +101,7 @@ int32_t RFID_SetTagStorageSettings(int64_t handle, void* settings) {
 
 int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
   Recorder rec("RFID_GetSingulationControl", {raw(handle), raw(antenna), raw(control)});
-  rec.blob("singulationControl", control, sizeof(SingulationControl::raw));  // as preset
+  rec.blob("singulationControl", control, layout::SingulationControl().size);  // as preset
   const bool usable = control != nullptr && !rec.captured("singulationControl").faulted;
   const CallOutcome call = finishCall(rec, handle, usable, antennaProblem(antenna));
   if (!usable || !validAntenna(antenna)) return call.refused();
@@ -117,7 +117,7 @@ int32_t RFID_GetSingulationControl(int64_t handle, uint16_t antenna, void* contr
 
 int32_t RFID_SetSingulationControl(int64_t handle, uint16_t antenna, void* control) {
   Recorder rec("RFID_SetSingulationControl", {raw(handle), raw(antenna), raw(control)});
-  rec.blob("singulationControl", control, sizeof(SingulationControl::raw));
+  rec.blob("singulationControl", control, layout::SingulationControl().size);
   const Blob& captured = rec.captured("singulationControl");
   const CallOutcome call = finishCall(rec, handle, !captured.faulted, antennaProblem(antenna));
   if (!call.proceeds()) return call.status;

@@ -10,6 +10,9 @@
 #include "reader/memory_fields.h"
 #include "reader/state.h"
 #include "record/captured_fields.h"
+#include "record/config_layouts.h"
+#include "record/named_fields.h"
+#include "record/record_layouts.h"
 #include "reader/sessions.h"
 #include "reader/session_store.h"
 #include "reader/status.h"
@@ -17,18 +20,18 @@
 namespace sim {
 namespace {
 
-// Record sizes and offsets of the reader's side of these calls.
-constexpr size_t kSystemInfoSize = 5336;
-constexpr size_t kReaderInfoSize = 4160;
-constexpr size_t kSystemTimeSize = 16;
-constexpr size_t kNameListSize = 24;
-constexpr size_t kUpdateInfoSize = 3120;
-constexpr size_t kUpdateStatusSize = 1144;
-constexpr size_t kUserAppListSize = 16;
-constexpr size_t kUserAppEntrySize = 24;
-constexpr size_t kReaderInfoName = 0;
-constexpr size_t kReaderInfoLocation = 2080;
-constexpr size_t kUpdateTextChars = (kUpdateStatusSize - 4) / sizeof(wchar_t);
+using layout::ProfileList;
+using layout::ReaderInfo;
+using layout::SystemInfo;
+using layout::TimeZoneList;
+using layout::UpdateInfo;
+using layout::UpdateStatus;
+using layout::UserAppInfo;
+using layout::UserAppList;
+
+size_t updateTextChars() {
+  return (UpdateStatus().size - layout::OffsetOf(UpdateStatus(), "updateInfo", 0)) / sizeof(wchar_t);
+}
 
 const std::vector<std::wstring>& timeZoneNames() {
   static const auto* names = new std::vector<std::wstring>{
@@ -75,9 +78,9 @@ struct UserApp {
 class AppTable {
  public:
   explicit AppTable(const std::vector<UserApp>& apps)
-      : texts_(textsOf(apps)), entries_(apps.size() * kUserAppEntrySize) {
+      : texts_(textsOf(apps)), entries_(apps.size() * UserAppInfo().size) {
     for (size_t i = 0; i < apps.size(); ++i) {
-      uint8_t* entry = entries_.data() + i * kUserAppEntrySize;
+      uint8_t* entry = entries_.data() + i * UserAppInfo().size;
       storeEntry(entry, texts_.at(2 * i), apps[i], texts_.at(2 * i + 1));
     }
   }
@@ -95,10 +98,10 @@ class AppTable {
   }
 
   static void storeEntry(uint8_t* entry, const wchar_t* name, const UserApp& app, const wchar_t* metadata) {
-    storePtr(entry, 0, name);
-    entry[8] = app.running ? 1 : 0;
-    entry[9] = app.autoStart ? 1 : 0;
-    storePtr(entry, 16, metadata);
+    storePtr(entry, offsetOf<uint64_t>(UserAppInfo(), "appName"), name);
+    store<uint8_t>(entry, offsetOf<uint8_t>(UserAppInfo(), "runStatus"), app.running ? 1 : 0);
+    store<uint8_t>(entry, offsetOf<uint8_t>(UserAppInfo(), "autoStart"), app.autoStart ? 1 : 0);
+    storePtr(entry, offsetOf<uint64_t>(UserAppInfo(), "Metadata"), metadata);
   }
 
   TextTable texts_;
@@ -107,7 +110,7 @@ class AppTable {
 
 struct AdminState {
   bool identitySet = false;
-  std::vector<uint8_t> readerInfo;  // as last set, kReaderInfoSize bytes
+  std::vector<uint8_t> readerInfo;  // as last set, a whole READER_INFO
   int64_t clockOffsetSeconds = 0;
   uint16_t timeZone = 0;
   std::vector<std::wstring> profiles = factoryProfiles();
@@ -150,22 +153,27 @@ std::wstring textOf(const Blob& name) { return textAt(name, 0); }
 
 bool usable(const Blob& record, size_t size) { return record.present && record.bytes.size() == size; }
 
-void putText(std::vector<uint8_t>* record, size_t offset, const std::wstring& text) {
-  putWide(record, offset, text.c_str());
+void putText(std::vector<uint8_t>* record, const layout::Record& layout, const char* field, const std::wstring& text) {
+  putNamedWide(record, layout, field, text.c_str());
 }
 
 // The default identity a new session finds.
 std::vector<uint8_t> factoryReaderInfo() {
-  std::vector<uint8_t> info(kReaderInfoSize, 0);
-  putText(&info, 0, L"Simulated reader");
-  putText(&info, 1040, L"Recording simulator of the reader C API");
-  putText(&info, 2080, L"Test bench");
+  std::vector<uint8_t> info(ReaderInfo().size, 0);
+  putText(&info, ReaderInfo(), "name", L"Simulated reader");
+  putText(&info, ReaderInfo(), "description", L"Recording simulator of the reader C API");
+  putText(&info, ReaderInfo(), "location", L"Test bench");
   return info;
 }
 
 const std::vector<uint8_t>& readerInfoOf(const AdminState& state) {
   static const auto* factory = new std::vector<uint8_t>(factoryReaderInfo());
   return state.identitySet ? state.readerInfo : *factory;
+}
+
+void copyText(const std::vector<uint8_t>& identity, const char* from, std::vector<uint8_t>* info, const char* to) {
+  std::copy_n(identity.begin() + layout::OffsetOf(ReaderInfo(), from, 0), kWideFieldBytes,
+              info->begin() + layout::OffsetOf(SystemInfo(), to, 0));
 }
 
 std::wstring upTimeText(int64_t handle) {
@@ -178,12 +186,20 @@ std::wstring upTimeText(int64_t handle) {
   return text;
 }
 
-// A name list record (time zones, profiles): count, names, active index.
-std::vector<uint8_t> nameList(size_t count, const TextTable& names, int16_t active) {
-  std::vector<uint8_t> list(kNameListSize, 0);
-  putField<uint16_t>(&list, 0, static_cast<uint16_t>(count));
-  putField<uint64_t>(&list, 8, reinterpret_cast<uintptr_t>(names.pointerArray()));
-  putField<int16_t>(&list, 16, active);
+// A name list record (time zones, profiles) by its fields' names: count,
+// names, active index.
+struct NameListFields {
+  const layout::Record& record;
+  const char* count;
+  const char* names;
+  const char* active;
+};
+
+std::vector<uint8_t> nameList(const NameListFields& f, size_t count, const TextTable& names, int16_t active) {
+  std::vector<uint8_t> list(f.record.size, 0);
+  putNamed<uint16_t>(&list, f.record, f.count, static_cast<uint16_t>(count));
+  putNamedPointer(&list, f.record, f.names, names.pointerArray());
+  putNamed<int16_t>(&list, f.record, f.active, active);
   return list;
 }
 
@@ -235,53 +251,56 @@ std::wstring appNameOf(const std::wstring& packageName) {
   return name;
 }
 
+uint16_t timeField(const Blob& time, const char* name) { return namedField<uint16_t>(time, layout::SystemTime(), name); }
+
 time_t timeOf(const Blob& time) {
   std::tm fields{};
-  fields.tm_year = fieldAt<uint16_t>(time, 0) - 1900;
-  fields.tm_mon = fieldAt<uint16_t>(time, 2) - 1;
-  fields.tm_mday = fieldAt<uint16_t>(time, 6);
-  fields.tm_hour = fieldAt<uint16_t>(time, 8);
-  fields.tm_min = fieldAt<uint16_t>(time, 10);
-  fields.tm_sec = fieldAt<uint16_t>(time, 12);
+  fields.tm_year = timeField(time, "Year") - 1900;
+  fields.tm_mon = timeField(time, "Month") - 1;
+  fields.tm_mday = timeField(time, "Day");
+  fields.tm_hour = timeField(time, "Hour");
+  fields.tm_min = timeField(time, "Minute");
+  fields.tm_sec = timeField(time, "Second");
   return timegm(&fields);
 }
 
 }  // namespace
 
 std::vector<uint8_t> systemInfoAnswer(int64_t handle) {
-  std::vector<uint8_t> info(kSystemInfoSize, 0);
+  const layout::Record& r = SystemInfo();
+  std::vector<uint8_t> info(r.size, 0);
   std::vector<uint8_t> identity;
   if (!withState(handle, [&](AdminState& state) { identity = readerInfoOf(state); })) return info;
-  putField<uint32_t>(&info, 0, kSystemInfoSize);
-  putField<uint32_t>(&info, 4, kSystemInfoSize);
-  putText(&info, 8, L"3.2.11");
-  putText(&info, 1048, L"1.7.0");
-  putText(&info, 2088, upTimeText(handle));
-  std::copy_n(identity.begin() + kReaderInfoName, kWideFieldBytes, info.begin() + 3128);
-  std::copy_n(identity.begin() + kReaderInfoLocation, kWideFieldBytes, info.begin() + 4168);
-  putField<int32_t>(&info, 5208, 196608);  // RAM available, KB
-  putField<int32_t>(&info, 5212, 524288);  // flash available, KB
-  putField<int32_t>(&info, 5216, 65536);   // RAM used, KB
-  putField<int32_t>(&info, 5220, 262144);  // RAM total, KB
-  info[5224] = 4;                          // % load of user processes
-  info[5225] = 2;                          // % load of system processes
-  putField<uint32_t>(&info, 5256, 0);      // mains power
+  putNamed<uint32_t>(&info, r, "structInfo.memoryAllocated", static_cast<uint32_t>(r.size));
+  putNamed<uint32_t>(&info, r, "structInfo.memoryUsed", static_cast<uint32_t>(r.size));
+  putText(&info, r, "radioFirmwareVersion", L"3.2.11");
+  putText(&info, r, "fPGAVersion", L"1.7.0");
+  putText(&info, r, "upTime", upTimeText(handle));
+  copyText(identity, "name", &info, "readerName");
+  copyText(identity, "location", &info, "readerLocation");
+  putNamed<int32_t>(&info, r, "ramAvailable", 196608);  // KB
+  putNamed<int32_t>(&info, r, "flashAvailable", 524288);
+  putNamed<int32_t>(&info, r, "ramUsed", 65536);
+  putNamed<int32_t>(&info, r, "ramTotal", 262144);
+  putNamed<int8_t>(&info, r, "cpuUsageForUserProcesses", 4);    // %
+  putNamed<int8_t>(&info, r, "cpuUsageForSystemProcesses", 2);  // %
+  putNamed<int16_t>(&info, r, "powersourcetypeEnum", 0);        // mains power
   return info;
 }
 
 std::vector<uint8_t> readerInfoAnswer(int64_t handle) {
-  std::vector<uint8_t> info(kReaderInfoSize, 0);
+  std::vector<uint8_t> info(ReaderInfo().size, 0);
   withState(handle, [&](AdminState& state) { info = readerInfoOf(state); });
   return info;
 }
 
 // Each field is kept to 259 characters and a terminator.
 int32_t keepReaderInfo(int64_t handle, const Blob& info) {
-  if (!usable(info, kReaderInfoSize)) return kInvalidParam;
+  if (!usable(info, ReaderInfo().size)) return kInvalidParam;
   withState(handle, [&](AdminState& state) {
     state.readerInfo = info.bytes;
-    for (size_t field = 0; field < kReaderInfoSize; field += kWideFieldBytes) {
-      putField<wchar_t>(&state.readerInfo, field + kWideFieldBytes - sizeof(wchar_t), L'\0');
+    for (const layout::Field& field : ReaderInfo().fields) {
+      putField<wchar_t>(&state.readerInfo, field.offset + kWideFieldBytes - sizeof(wchar_t), L'\0');
     }
     state.identitySet = true;
   });
@@ -289,7 +308,7 @@ int32_t keepReaderInfo(int64_t handle, const Blob& info) {
 }
 
 std::vector<uint8_t> localTimeAnswer(int64_t handle) {
-  std::vector<uint8_t> time(kSystemTimeSize, 0);
+  std::vector<uint8_t> time(layout::SystemTime().size, 0);
   int64_t offset = 0;
   if (!withState(handle, [&](AdminState& state) { offset = state.clockOffsetSeconds; })) return time;
   const auto now = std::chrono::system_clock::now();
@@ -299,16 +318,18 @@ std::vector<uint8_t> localTimeAnswer(int64_t handle) {
   gmtime_r(&seconds, &fields);
   const int values[] = {fields.tm_year + 1900, fields.tm_mon + 1, fields.tm_wday, fields.tm_mday,
                         fields.tm_hour,        fields.tm_min,     fields.tm_sec,  static_cast<int>(millis)};
-  for (size_t i = 0; i < 8; ++i) putField<uint16_t>(&time, 2 * i, static_cast<uint16_t>(values[i]));
+  for (size_t i = 0; i < layout::SystemTime().fields.size(); ++i) {
+    putField<uint16_t>(&time, layout::SystemTime().fields[i].offset, static_cast<uint16_t>(values[i]));
+  }
   return time;
 }
 
 int32_t setLocalTime(int64_t handle, const Blob& time) {
-  if (!usable(time, kSystemTimeSize)) return kInvalidParam;
-  const uint16_t month = fieldAt<uint16_t>(time, 2);
-  const uint16_t day = fieldAt<uint16_t>(time, 6);
-  if (month < 1 || month > 12 || day < 1 || day > 31 || fieldAt<uint16_t>(time, 8) > 23 ||
-      fieldAt<uint16_t>(time, 10) > 59 || fieldAt<uint16_t>(time, 12) > 59) {
+  if (!usable(time, layout::SystemTime().size)) return kInvalidParam;
+  const uint16_t month = timeField(time, "Month");
+  const uint16_t day = timeField(time, "Day");
+  if (month < 1 || month > 12 || day < 1 || day > 31 || timeField(time, "Hour") > 23 ||
+      timeField(time, "Minute") > 59 || timeField(time, "Second") > 59) {
     return kInvalidParam;
   }
   const int64_t offset = timeOf(time) - std::time(nullptr);
@@ -317,9 +338,10 @@ int32_t setLocalTime(int64_t handle, const Blob& time) {
 }
 
 std::vector<uint8_t> timeZoneListAnswer(int64_t handle) {
-  std::vector<uint8_t> list(kNameListSize, 0);
+  std::vector<uint8_t> list(TimeZoneList().size, 0);
   withState(handle, [&](AdminState& state) {
-    list = nameList(timeZoneNames().size(), timeZoneTable(), static_cast<int16_t>(state.timeZone));
+    list = nameList({TimeZoneList(), "numTimeZones", "timeZoneNames", "activeTimeZoneIndex"}, timeZoneNames().size(),
+                    timeZoneTable(), static_cast<int16_t>(state.timeZone));
   });
   return list;
 }
@@ -331,18 +353,18 @@ int32_t selectTimeZone(int64_t handle, uint16_t index) {
 }
 
 std::vector<uint8_t> updateStatusAnswer(int64_t handle) {
-  std::vector<uint8_t> status(kUpdateStatusSize, 0);
+  std::vector<uint8_t> status(UpdateStatus().size, 0);
   withState(handle, [&](AdminState& state) {
-    putField<int32_t>(&status, 0, state.updatePercentage);
-    putText(&status, 4, state.updateText.substr(0, kUpdateTextChars - 1));
+    putNamed<int32_t>(&status, UpdateStatus(), "percentage", state.updatePercentage);
+    putText(&status, UpdateStatus(), "updateInfo", state.updateText.substr(0, updateTextChars() - 1));
   });
   return status;
 }
 
 // The simulated update is over at once.
 int32_t updateSoftware(int64_t handle, const Blob& updateInfo) {
-  if (!usable(updateInfo, kUpdateInfoSize)) return kInvalidParam;
-  const std::wstring hostName = textAt(updateInfo, 0);
+  if (!usable(updateInfo, UpdateInfo().size)) return kInvalidParam;
+  const std::wstring hostName = textAt(updateInfo, layout::OffsetOf(UpdateInfo(), "hostName", 0));
   if (hostName.empty()) return kInvalidParam;
   withState(handle, [&](AdminState& state) {
     state.updatePercentage = 100;
@@ -352,9 +374,10 @@ int32_t updateSoftware(int64_t handle, const Blob& updateInfo) {
 }
 
 std::vector<uint8_t> profileListAnswer(int64_t handle) {
-  std::vector<uint8_t> list(kNameListSize, 0);
+  std::vector<uint8_t> list(ProfileList().size, 0);
   withState(handle, [&](AdminState& state) {
-    list = nameList(state.profiles.size(), currentProfileTable(state), state.activeProfile);
+    list = nameList({ProfileList(), "numProfiles", "profileNames", "activeProfileIndex"}, state.profiles.size(),
+                    currentProfileTable(state), state.activeProfile);
   });
   return list;
 }
@@ -390,10 +413,10 @@ int32_t activateProfile(int64_t handle, const Blob& name) {
 }
 
 std::vector<uint8_t> userAppListAnswer(int64_t handle) {
-  std::vector<uint8_t> list(kUserAppListSize, 0);
+  std::vector<uint8_t> list(UserAppList().size, 0);
   withState(handle, [&](AdminState& state) {
-    putField<uint32_t>(&list, 0, static_cast<uint32_t>(state.apps.size()));
-    putField<uint64_t>(&list, 8, reinterpret_cast<uintptr_t>(currentAppTable(state).entries()));
+    putNamed<uint32_t>(&list, UserAppList(), "numApps", static_cast<uint32_t>(state.apps.size()));
+    putNamedPointer(&list, UserAppList(), "apps", currentAppTable(state).entries());
   });
   return list;
 }

@@ -6,13 +6,19 @@
 
 #include "reader/memory_fields.h"
 #include "reader/session_store.h"
+#include "record/config_layouts.h"
+#include "record/named_fields.h"
 
 namespace sim {
 namespace {
 
+size_t rfConfigBytes() { return layout::AntennaRfConfig().size; }
+size_t cableLossBytes() { return layout::CableLossCompensation().size; }
+size_t cableLossAntennaAt() { return offsetOf<uint16_t>(layout::CableLossCompensation(), "antennaID"); }
+
 struct AntennaPort {
   std::array<uint16_t, 3> indices{};
-  std::vector<uint8_t> rfConfig = std::vector<uint8_t>(kAntennaRfConfigKept, 0);
+  std::vector<uint8_t> rfConfig = std::vector<uint8_t>(rfConfigBytes(), 0);
   std::vector<uint8_t> cableLoss;  // empty until set
   bool readPointEnabled = true;
 };
@@ -50,7 +56,7 @@ std::vector<uint8_t> antennaIndicesOf(int64_t handle, uint16_t antenna) {
 }
 
 void keepAntennaRfConfig(int64_t handle, uint16_t antenna, const std::vector<uint8_t>& config) {
-  std::vector<uint8_t> kept(kAntennaRfConfigKept, 0);
+  std::vector<uint8_t> kept(rfConfigBytes(), 0);
   std::copy_n(config.begin(), std::min(config.size(), kept.size()), kept.begin());
   updatePort(handle, antenna, [&](AntennaPort& port) { port.rfConfig = kept; });
 }
@@ -60,18 +66,18 @@ std::vector<uint8_t> antennaRfConfigOf(int64_t handle, uint16_t antenna) {
 }
 
 void keepCableLoss(int64_t handle, const std::vector<uint8_t>& record) {
-  if (record.size() < kCableLossRecordBytes) return;
-  const uint16_t antenna = load<uint16_t>(record.data(), 0);
+  if (record.size() < cableLossBytes()) return;
+  const uint16_t antenna = load<uint16_t>(record.data(), cableLossAntennaAt());
   updatePort(handle, antenna, [&](AntennaPort& port) {
-    port.cableLoss.assign(record.begin(), record.begin() + kCableLossRecordBytes);
+    port.cableLoss.assign(record.begin(), record.begin() + cableLossBytes());
   });
 }
 
 std::vector<uint8_t> cableLossOf(int64_t handle, uint16_t antenna) {
   std::vector<uint8_t> record = portOf(handle, antenna).cableLoss;
   if (record.empty()) {
-    record.assign(kCableLossRecordBytes, 0);
-    store<uint16_t>(record.data(), 0, antenna);
+    record.assign(cableLossBytes(), 0);
+    store<uint16_t>(record.data(), cableLossAntennaAt(), antenna);
   }
   return record;
 }

@@ -12,17 +12,14 @@
 
 namespace sim {
 
-// What the reader keeps of an antenna's RF configuration: everything up to
-// and including the stop trigger.
-constexpr size_t kAntennaRfConfigKept = 32;
-constexpr size_t kCableLossRecordBytes = 12;
-
 void keepAntennaIndices(int64_t handle, uint16_t antenna, uint16_t first, uint16_t second, uint16_t third);
 // The three indices, 2 bytes each; zeros for an antenna never set.
 std::vector<uint8_t> antennaIndicesOf(int64_t handle, uint16_t antenna);
 
 void keepAntennaRfConfig(int64_t handle, uint16_t antenna, const std::vector<uint8_t>& config);
-// kAntennaRfConfigKept bytes; zeros for an antenna never set.
+// What the reader keeps of an antenna's RF configuration (the record up to
+// and including the stop trigger, layout::AntennaRfConfig()); zeros for an
+// antenna never set.
 std::vector<uint8_t> antennaRfConfigOf(int64_t handle, uint16_t antenna);
 
 // record: one cable-loss record, its antenna identifier at offset 0.

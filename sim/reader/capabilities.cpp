@@ -6,6 +6,8 @@
 #include "reader/sessions.h"
 #include "reader/population.h"
 #include "record/captured_fields.h"
+#include "record/config_layouts.h"
+#include "record/named_fields.h"
 
 namespace sim {
 namespace {
@@ -61,12 +63,16 @@ std::string antennaIndicesProblem(uint16_t sensitivity, uint16_t power, uint16_t
 }
 
 std::string rfConfigProblem(const Blob& config) {
-  if (config.bytes.size() < 12) return {};
+  const layout::Record& r = layout::AntennaRfConfig();
+  if (config.bytes.size() < offsetOf<uint32_t>(r, "rfModeTableIndex") + sizeof(uint32_t)) return {};
   const CapsTableSizes sizes = defaultTableSizes();
-  return firstOf({indexProblem("transmit power", fieldAt<uint16_t>(config, 0), sizes.transmitPowers),
-                  indexProblem("receive sensitivity", fieldAt<uint16_t>(config, 2), sizes.receiveSensitivities),
-                  indexProblem("transmit frequency", fieldAt<uint16_t>(config, 4), sizes.hopFrequencies),
-                  rfModeProblem(fieldAt<uint32_t>(config, 8))});
+  return firstOf({indexProblem("transmit power", namedField<uint16_t>(config, r, "transmitPowerIndex"),
+                               sizes.transmitPowers),
+                  indexProblem("receive sensitivity", namedField<uint16_t>(config, r, "receiveSensitivityIndex"),
+                               sizes.receiveSensitivities),
+                  indexProblem("transmit frequency", namedField<uint16_t>(config, r, "transmitFrequencyIndex"),
+                               sizes.hopFrequencies),
+                  rfModeProblem(namedField<uint32_t>(config, r, "rfModeTableIndex"))});
 }
 
 std::string rfModeProblem(uint32_t index) { return indexProblem("RF mode", index, defaultTableSizes().rfModes); }

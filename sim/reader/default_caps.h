@@ -1,6 +1,6 @@
 // The capabilities a simulated reader reports when no test scripted them:
 // a four-port reader with one RF mode table, one hopping table and no duty
-// cycles, laid out as the 3768-byte capabilities record of the C API. The
+// cycles, laid out as the capabilities record of the C API. The
 // tables the record points at live as long as the process.
 #pragma once
 
@@ -9,8 +9,6 @@
 #include <vector>
 
 namespace sim {
-
-constexpr size_t kReaderCapsRecordBytes = 3768;
 
 std::vector<uint8_t> defaultReaderCaps();
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "record/captured_fields.h"
+#include "record/config_layouts.h"
 #include "reader/sessions.h"
 #include "reader/session_store.h"
 #include "reader/status.h"
@@ -23,7 +24,8 @@ struct RadioIoSettings {
   uint8_t radioOn = 1;
   uint32_t idleTimeoutMilliseconds = 0;
   uint8_t powerNegotiation = 0;
-  std::vector<uint8_t> usbSettings = std::vector<uint8_t>(8, 0);  // as the setter got them
+  // As the setter got them.
+  std::vector<uint8_t> usbSettings = std::vector<uint8_t>(layout::UsbOperationModeSettings().size, 0);
   std::map<int32_t, uint8_t> gpoState;                            // by port
 
   std::vector<uint8_t> rfModeAnswer(uint16_t antennaID) const;

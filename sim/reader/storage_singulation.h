@@ -1,43 +1,52 @@
 // Settings records a reader keeps as the application set them: the tag
-// storage settings (16 bytes) and the singulation control of each antenna
-// (20 bytes). Kept raw, so a getter returns exactly what the setter got.
+// storage settings and the singulation control of each antenna (records
+// described in record/config_layouts.h). Kept raw, so a getter returns
+// exactly what the setter got.
 #pragma once
 
-#include <array>
 #include <cstdint>
+#include <vector>
 
 #include "reader/memory_fields.h"
+#include "record/config_layouts.h"
+#include "record/named_fields.h"
 
 namespace sim {
 
 struct TagStorageSettings {
-  std::array<uint8_t, 16> raw{};
+  std::vector<uint8_t> raw = std::vector<uint8_t>(layout::TagStorageSettings().size, 0);
 
   static TagStorageSettings defaults();
-  uint32_t maxTagCount() const { return load<uint32_t>(raw.data(), 0); }
-  uint32_t maxMemoryBankByteCount() const { return load<uint32_t>(raw.data(), 4); }
-  uint32_t maxTagIDByteCount() const { return load<uint32_t>(raw.data(), 8); }
-  bool discardTagsOnInventoryStop() const { return raw[15] != 0; }
+  uint32_t maxTagCount() const { return field<uint32_t>("maxTagCount"); }
+  uint32_t maxMemoryBankByteCount() const { return field<uint32_t>("maxMemoryBankByteCount"); }
+  uint32_t maxTagIDByteCount() const { return field<uint32_t>("maxTagIDByteCount"); }
+  bool discardTagsOnInventoryStop() const { return field<uint8_t>("discardTagsOnInventoryStop") != 0; }
+
+  template <class T>
+  T field(const char* name) const {
+    return load<T>(raw.data(), offsetOf<T>(layout::TagStorageSettings(), name));
+  }
 };
 
 struct SingulationControl {
-  std::array<uint8_t, 20> raw{};
+  std::vector<uint8_t> raw = std::vector<uint8_t>(layout::SingulationControl().size, 0);
 
   static SingulationControl defaults();
 };
 
 inline TagStorageSettings TagStorageSettings::defaults() {
   TagStorageSettings s;
-  store<uint32_t>(s.raw.data(), 0, 4096);    // maxTagCount
-  store<uint32_t>(s.raw.data(), 4, 64);      // maxMemoryBankByteCount
-  store<uint32_t>(s.raw.data(), 8, 64);      // maxTagIDByteCount
-  store<uint16_t>(s.raw.data(), 12, 0xFFFF); // tagFields: every field
-  return s;                                  // both flags 0
+  const layout::Record& r = layout::TagStorageSettings();
+  putNamed<uint32_t>(&s.raw, r, "maxTagCount", 4096);
+  putNamed<uint32_t>(&s.raw, r, "maxMemoryBankByteCount", 64);
+  putNamed<uint32_t>(&s.raw, r, "maxTagIDByteCount", 64);
+  putNamed<uint16_t>(&s.raw, r, "tagFields", 0xFFFF);  // every field
+  return s;                                            // both flags 0
 }
 
 inline SingulationControl SingulationControl::defaults() {
   SingulationControl s;
-  store<uint16_t>(s.raw.data(), 4, 100);  // tagPopulation; session S0, the rest 0
+  putNamed<uint16_t>(&s.raw, layout::SingulationControl(), "tagPopulation", 100);  // session S0, the rest 0
   return s;
 }
 

@@ -28,7 +28,8 @@ enum class Arg : uint8_t {
   InOut,      // a record (or `bytes` bytes when record is NULL) the call may write
   TagArray,   // out: an array of tag record pointers, as many as the count
               // behind argument `lengthArg`, each a TAG_DATA
-  TagList,    // in: an array of tag record pointers, `lengthArg` gives the count
+  TagList,    // in: an array of pointers to records (tag records, cable-loss
+              // records), `lengthArg` gives the count
 };
 
 struct ArgSpec {

@@ -10,7 +10,7 @@ size_t ScalarBytes(Kind kind) {
   switch (kind) {
     case Kind::U8: case Kind::I8: case Kind::Bool: return 1;
     case Kind::U16: case Kind::I16: return 2;
-    case Kind::U32: case Kind::I32: return 4;
+    case Kind::U32: case Kind::I32: case Kind::F32: return 4;
     case Kind::U64: case Kind::I64: case Kind::Pointer: return 8;
     default: return 0;
   }

@@ -14,6 +14,7 @@ namespace sim::layout {
 
 enum class Kind : uint8_t {
   U8, I8, U16, I16, U32, I32, U64, I64,
+  F32,       // an IEEE single-precision number
   Bool,      // one byte, 0 or 1 as the library writes it
   Pointer,   // eight bytes; see Field::target / Field::length
   Embedded,  // a record (or an array of records) inside this one

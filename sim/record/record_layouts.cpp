@@ -1,6 +1,6 @@
 #include "record/record_layouts.h"
 
-#include "record/layout_fields.h"
+#include "record/field_builders.h"
 #include "record/session_layouts.h"
 
 namespace sim::layout {
@@ -26,7 +26,7 @@ constexpr When kNxpConfigWordResult{80, 22};
 constexpr When kBitStringResults[] = {{80, 23}, {80, 24}, {80, 26}};
 
 // Every tag access parameter record ends with four reserved words.
-Field Reserved(size_t offset) { return Field{"reserved", offset, Kind::Bytes, nullptr, {}, 32}; }
+Field Reserved(size_t offset) { return InlineBytes("reserved", offset, 32); }
 
 }  // namespace
 

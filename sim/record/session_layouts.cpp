@@ -1,6 +1,6 @@
 #include "record/session_layouts.h"
 
-#include "record/layout_fields.h"
+#include "record/field_builders.h"
 #include "record/record_layouts.h"
 
 namespace sim::layout {

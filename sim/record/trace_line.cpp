@@ -1,7 +1,9 @@
 #include "record/trace_line.h"
 
 #include <cinttypes>
+#include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <ctime>
 
 namespace sim::trace {
@@ -33,6 +35,15 @@ std::string Timestamp(int64_t wallNanos) {
   return json::Quote(text);
 }
 
+// A number JSON can hold as one; infinities and NaN as quoted text.
+std::string FloatJson(uint32_t bits) {
+  float value;
+  std::memcpy(&value, &bits, sizeof value);
+  char text[32];
+  std::snprintf(text, sizeof text, "%.9g", value);
+  return std::isfinite(value) ? std::string(text) : json::Quote(text);
+}
+
 std::string ScalarJson(const Field& field, const std::vector<uint8_t>& bytes, size_t at) {
   const uint64_t raw = layout::UnsignedAt(bytes, at, layout::ScalarBytes(field.kind));
   switch (field.kind) {
@@ -40,6 +51,7 @@ std::string ScalarJson(const Field& field, const std::vector<uint8_t>& bytes, si
     case Kind::I16: return std::to_string(static_cast<int16_t>(raw));
     case Kind::I32: return std::to_string(static_cast<int32_t>(raw));
     case Kind::I64: return std::to_string(static_cast<int64_t>(raw));
+    case Kind::F32: return FloatJson(static_cast<uint32_t>(raw));
     default: return std::to_string(raw);
   }
 }
