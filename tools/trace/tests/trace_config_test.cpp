@@ -156,22 +156,6 @@ TEST_F(TraceConfigTest, TraceHoldsWhatWasSentAndWhatTheReaderWroteBack) {
   }
 }
 
-// A value of the decoded view by its path ("in/time/Year").
-std::string Decoded(const sim::json::Value& line, const std::string& path) {
-  const sim::json::Value* v = line.find("decoded");
-  for (size_t at = 0; v != nullptr && at <= path.size();) {
-    const size_t slash = std::min(path.find('/', at), path.size());
-    const std::string step = path.substr(at, slash - at);
-    at = slash + 1;
-    if (v->type != sim::json::Value::Type::Array) {
-      v = v->find(step);
-    } else {
-      v = std::stoul(step) < v->items.size() ? &v->items[std::stoul(step)] : nullptr;
-    }
-  }
-  return v == nullptr ? "(none)" : v->text;
-}
-
 TEST_F(TraceConfigTest, DecodedViewNamesTheFields) {
   const struct {
     const char* function;
@@ -191,17 +175,10 @@ TEST_F(TraceConfigTest, DecodedViewNamesTheFields) {
       {"RFID_GetProfileListW", "out/list/activeProfileIndex", "0"},
   };
   std::map<std::string, sim::json::Value> lines;
-  std::ifstream in(trace_test::TracePath());
-  size_t number = 0;
-  for (std::string line; std::getline(in, line);) {
-    if (number++ < Traced().skip) continue;
-    sim::json::ParseResult parsed = sim::json::Parse(line);
-    ASSERT_TRUE(parsed.value) << parsed.error;
-    lines[parsed.value->string("function")] = *parsed.value;
-  }
+  for (sim::json::Value& line : trace_test::TracedLines(Traced().skip)) lines[line.string("function")] = std::move(line);
   for (const auto& c : kCases) {
     ASSERT_EQ(lines.count(c.function), 1u) << c.function;
-    EXPECT_EQ(Decoded(lines[c.function], c.path), c.value) << c.function << " " << c.path;
+    EXPECT_EQ(trace_test::Decoded(lines[c.function], c.path), c.value) << c.function << " " << c.path;
   }
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -96,6 +97,38 @@ inline std::vector<sim::trace::TracedCall> ReadTrace(size_t skip = 0) {
     calls.push_back(std::move(call));
   }
   return calls;
+}
+
+// The lines traced from the skip-th on, parsed.
+inline std::vector<sim::json::Value> TracedLines(size_t skip = 0) {
+  std::vector<sim::json::Value> lines;
+  std::ifstream in(TracePath());
+  size_t number = 0;
+  for (std::string line; std::getline(in, line);) {
+    if (number++ < skip) continue;
+    sim::json::ParseResult parsed = sim::json::Parse(line);
+    EXPECT_TRUE(parsed.value) << parsed.error;
+    if (parsed.value) lines.push_back(std::move(*parsed.value));
+  }
+  return lines;
+}
+
+// A value of a line's decoded view by its path, "out/caps/numAntennas" (an
+// array entry by its index: "in/cableLoss/1/cableLossPer100Ft"); "(none)"
+// when there is no such value.
+inline std::string Decoded(const sim::json::Value& line, const std::string& path) {
+  const sim::json::Value* v = line.find("decoded");
+  for (size_t at = 0; v != nullptr && at <= path.size();) {
+    const size_t slash = std::min(path.find('/', at), path.size());
+    const std::string step = path.substr(at, slash - at);
+    at = slash + 1;
+    if (v->type != sim::json::Value::Type::Array) {
+      v = v->find(step);
+    } else {
+      v = std::stoul(step) < v->items.size() ? &v->items[std::stoul(step)] : nullptr;
+    }
+  }
+  return v == nullptr ? "(none)" : v->text;
 }
 
 }  // namespace trace_test

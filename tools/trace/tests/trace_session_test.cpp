@@ -30,17 +30,6 @@ void PutWide(Bytes& record, size_t at, const char* text) {
   for (size_t i = 0; text[i] != '\0'; ++i) record.put<uint32_t>(at + 4 * i, static_cast<unsigned char>(text[i]));
 }
 
-// A scalar of the trace line's decoded view, by its path ("out.config.port").
-std::string Decoded(const sim::json::Value& line, const std::string& path) {
-  const sim::json::Value* at = line.find("decoded");
-  for (size_t from = 0; at != nullptr && from <= path.size();) {
-    const size_t dot = std::min(path.find('.', from), path.size());
-    at = at->find(path.substr(from, dot - from));
-    from = dot + 1;
-  }
-  return at == nullptr ? "(none)" : at->text;
-}
-
 TEST(TraceSessionTest, SessionRecordsAreTracedAsJournaledAndDecodedByField) {
   ASSERT_NE(trace_test::Tracer(), nullptr);
   sim::resetSimulator();
@@ -132,27 +121,22 @@ TEST(TraceSessionTest, SessionRecordsAreTracedAsJournaledAndDecodedByField) {
 
   // The decoded view names the fields with their values.
   const struct { const char* fn; const char* path; std::string value; } decoded[] = {
-      {"RFID_ConnectW", "in.connInfo.secConnInfo.connStatus", "-7"},
-      {"RFID_ConnectW", "in.connInfo.secConnInfo.clientCertBuff", "a1b2c3"},
-      {"RFID_LoginW", "in.loginInfo.userName", "admin"},
-      {"RFID_SetLLRPConnectionConfigW", "in.config.pSecureModeConfig.secureMode", "1"},
-      {"RFID_GetLLRPConnectionConfigW", "out.config.port", "5085"},
-      {"RFID_GetLLRPConnectionConfigW", "out.config.hostServerIP", "10.0.0.9"},
-      {"RFID_GetLastErrorInfoW", "out.errorInfo.rfidStatusCode", std::to_string(sim::kInvalidParam)},
-      {"RFID_GetDllVersionInfoW", "out.versionInfo.dllVersion", "halyard-sim 1.0"},
-      {"RFID_GetEventData", "out.record.antennaEvent", "1"},
-      {"RFID_GetEventData", "out.record.alarmCode", "-5"},
+      {"RFID_ConnectW", "in/connInfo/secConnInfo/connStatus", "-7"},
+      {"RFID_ConnectW", "in/connInfo/secConnInfo/clientCertBuff", "a1b2c3"},
+      {"RFID_LoginW", "in/loginInfo/userName", "admin"},
+      {"RFID_SetLLRPConnectionConfigW", "in/config/pSecureModeConfig/secureMode", "1"},
+      {"RFID_GetLLRPConnectionConfigW", "out/config/port", "5085"},
+      {"RFID_GetLLRPConnectionConfigW", "out/config/hostServerIP", "10.0.0.9"},
+      {"RFID_GetLastErrorInfoW", "out/errorInfo/rfidStatusCode", std::to_string(sim::kInvalidParam)},
+      {"RFID_GetDllVersionInfoW", "out/versionInfo/dllVersion", "halyard-sim 1.0"},
+      {"RFID_GetEventData", "out/record/antennaEvent", "1"},
+      {"RFID_GetEventData", "out/record/alarmCode", "-5"},
   };
-  std::ifstream file(trace_test::TracePath());
-  std::vector<sim::json::Value> lines;
-  size_t number = 0;
-  for (std::string line; std::getline(file, line);) {
-    if (number++ >= skip) lines.push_back(*sim::json::Parse(line).value);
-  }
+  const std::vector<sim::json::Value> lines = trace_test::TracedLines(skip);
   for (const auto& c : decoded) {
     bool found = false;
     for (const sim::json::Value& line : lines) {
-      found = found || (line.string("function") == c.fn && Decoded(line, c.path) == c.value);
+      found = found || (line.string("function") == c.fn && trace_test::Decoded(line, c.path) == c.value);
     }
     EXPECT_TRUE(found) << c.fn << " " << c.path << " = " << c.value;
   }
