@@ -244,6 +244,7 @@ bool FromJson(const json::Value& line, TracedCall* call, std::string* error) {
     return false;
   }
   call->seq = line.unsignedInteger("seq");
+  call->durationNanos = line.integer("duration_ns");
   const json::Value* status = line.find("status");
   const json::Value* result = line.find("result");
   call->hasStatus = status != nullptr;

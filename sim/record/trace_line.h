@@ -51,6 +51,7 @@ struct TracedArg {
 struct TracedCall {
   std::string function;
   uint64_t seq = 0;
+  int64_t durationNanos = 0;
   bool hasStatus = false;
   int64_t result = 0;
   std::vector<TracedArg> args;

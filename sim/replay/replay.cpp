@@ -1,13 +1,16 @@
 #include "replay/replay.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <mutex>
+#include <thread>
 #include <vector>
 
+#include "reader/event_objects.h"
 #include "reader/tag_read.h"
 #include "reader/tag_records.h"
 #include "record/api_functions.h"
@@ -138,10 +141,28 @@ std::string BlobDifference(const std::string& name, const Blob& got, const Blob&
   return "";
 }
 
-// Values the reader handed out, not the caller's to repeat exactly.
+// Values the reader handed out, not the caller's to repeat exactly; and a
+// wait's timeout, which an application works out from its clock.
 bool HandedOut(const ArgSpec& arg) {
   return std::strcmp(arg.name, "handle") == 0 || std::strcmp(arg.name, "event") == 0 ||
-         std::strcmp(arg.name, "passThrough") == 0;
+         std::strcmp(arg.name, "passThrough") == 0 || std::strcmp(arg.name, "timeoutMs") == 0;
+}
+
+bool IsWait(const std::string& fn) {
+  return fn == "rfidUtils_WaitForSingleObject" || fn == "rfidUtils_WaitForMultipleObjects";
+}
+
+// A poll the trace answered with "nothing yet": a wait that timed out, a
+// fetch that found no tag, event data that was not there. How many of these
+// an application makes depends on its clock, not on the reader, so a replay
+// lets the application make more or fewer of them than the trace holds.
+bool IsIdlePoll(const TracedCall& traced) {
+  if (IsWait(traced.function)) return traced.result == kWaitTimeout;
+  if (traced.function == "rfid_GetReadTags") {
+    auto count = traced.out.find("count");
+    return traced.result != 0 || (count != traced.out.end() && layout::UnsignedAt(count->second.bytes, 0, 4) == 0);
+  }
+  return (traced.function == "RFID_GetReadTag" || traced.function == "RFID_GetEventData") && traced.result != 0;
 }
 
 // A wide string is compared as text: up to its terminator, however much of
@@ -336,31 +357,70 @@ std::string divergence() {
   return s.divergence;
 }
 
+namespace {
+
+// The traced call that answers this one: the next in the trace, past idle
+// polls the application no longer makes; or, for an idle poll the trace
+// holds fewer of, the last idle answer of that function before it (the
+// first one when there is none before). nullptr when nothing matches.
+const TracedCall* Match(State& s, const Call& call) {
+  for (size_t at = s.next; at < s.calls.size(); ++at) {
+    if (Difference(call, s.calls[at]).empty()) {
+      s.next = at + 1;
+      return &s.calls[at];
+    }
+    if (!IsIdlePoll(s.calls[at])) break;
+  }
+  const TracedCall* idle = nullptr;
+  for (size_t at = 0; at < s.calls.size() && (idle == nullptr || at < s.next); ++at) {
+    const TracedCall& traced = s.calls[at];
+    if (traced.function == call.fn && IsIdlePoll(traced) && Difference(call, traced).empty()) idle = &traced;
+  }
+  return idle;
+}
+
+// How long a wait answered from the trace takes: as long as it took there,
+// but no longer than this caller asked to wait.
+std::chrono::nanoseconds WaitTime(const Call& call, const TracedCall& traced) {
+  if (!IsWait(call.fn)) return std::chrono::nanoseconds(0);
+  const size_t timeoutArg = call.fn == "rfidUtils_WaitForSingleObject" ? 1 : 3;
+  const int64_t asked = timeoutArg < call.args.size() ? static_cast<int64_t>(call.args[timeoutArg]) : 0;
+  int64_t nanos = std::max<int64_t>(traced.durationNanos, 0);
+  if (asked >= 0 && static_cast<uint64_t>(asked) < 0xFFFFFFFFu) nanos = std::min(nanos, asked * 1000000);
+  return std::chrono::nanoseconds(nanos);
+}
+
+}  // namespace
+
 bool answer(const Call& call, int32_t* status) {
   State& s = state();
-  std::lock_guard<std::mutex> lock(s.mutex);
-  StartFromEnvironment(s);
-  if (!s.started) return false;
-  *status = kReplayDiverged;
-  if (!s.divergence.empty()) return true;
-  const size_t number = s.next + 1;
-  if (s.next >= s.calls.size()) {
-    s.divergence = "call " + std::to_string(number) + " (" + call.fn + "): the trace ends after " +
-                   std::to_string(s.calls.size()) + " calls";
-    Report(s.divergence);
-    return true;
+  std::chrono::nanoseconds wait{0};
+  {
+    std::lock_guard<std::mutex> lock(s.mutex);
+    StartFromEnvironment(s);
+    if (!s.started) return false;
+    *status = kReplayDiverged;
+    if (!s.divergence.empty()) return true;
+    const size_t number = s.next + 1;
+    const size_t expected = s.next;
+    const TracedCall* traced = Match(s, call);
+    if (traced == nullptr) {
+      s.divergence = expected >= s.calls.size()
+                         ? "call " + std::to_string(number) + " (" + call.fn + "): the trace ends after " +
+                               std::to_string(s.calls.size()) + " calls"
+                         : "call " + std::to_string(number) + " (" + call.fn + ") differs from the trace: " +
+                               Difference(call, s.calls[expected]);
+      Report(s.divergence);
+      return true;
+    }
+    WriteOutputs(call, *traced);
+    // Handles and records the simulator hands out stay its own; statuses come from the trace.
+    const api::FunctionSpec* fn = api::FindFunction(call.fn);
+    *status = fn == nullptr || fn->result == api::Result::Status ? static_cast<int32_t>(traced->result) : 0;
+    wait = WaitTime(call, *traced);
   }
-  const TracedCall& traced = s.calls[s.next++];
-  const std::string difference = Difference(call, traced);
-  if (!difference.empty()) {
-    s.divergence = "call " + std::to_string(number) + " (" + call.fn + ") differs from the trace: " + difference;
-    Report(s.divergence);
-    return true;
-  }
-  WriteOutputs(call, traced);
-  // Handles and records the simulator hands out stay its own; statuses come from the trace.
-  const api::FunctionSpec* fn = api::FindFunction(call.fn);
-  *status = fn == nullptr || fn->result == api::Result::Status ? static_cast<int32_t>(traced.result) : 0;
+  // Outside the lock: other threads' calls go on meanwhile.
+  if (wait.count() > 0) std::this_thread::sleep_for(wait);
   return true;
 }
 

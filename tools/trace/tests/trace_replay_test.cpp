@@ -106,8 +106,10 @@ TagSeen SeenIn(const void* record) {
   return seen;
 }
 
-// The session; `byteOffset` is the read's offset, so a second run can differ.
-Outcome RunSession(const Api& api, int64_t reader, uint16_t byteOffset) {
+// The session; `byteOffset` is the read's offset, so a second run can differ;
+// `idlePolls` more fetches find no tag once the reader's buffer is empty, as
+// an application polling on a timer makes.
+Outcome RunSession(const Api& api, int64_t reader, uint16_t byteOffset, int idlePolls = 0) {
   Outcome o;
   const int64_t stopped = api.CreateEvent(nullptr, 1, 0, nullptr);
   api.RegisterEventNotification(reader, sim::kInventoryStopEvent, stopped);
@@ -140,6 +142,7 @@ Outcome RunSession(const Api& api, int64_t reader, uint16_t byteOffset) {
     for (uint32_t i = 0; i < count; ++i) o.tags.insert(SeenIn(records[i]));
     api.DeallocateTags(reader, records.data(), count);
   }
+  for (int i = 0; i < idlePolls; ++i) api.GetReadTags(reader, 64, records.data(), &count);
 
   // READ_ACCESS_PARAMS: memoryBank at 0, byteOffset at 4, byteCount at 6,
   // accessPassword at 8.
@@ -287,6 +290,38 @@ TEST_F(TraceReplayTest, ReplayGivesTheSameTagsAndOutputs) {
   EXPECT_EQ(replayed.readData, traced.readData);
   EXPECT_EQ(replayed.lastStatus, traced.lastStatus);
   for (int i = 0; i < 3; ++i) EXPECT_EQ(replayed.antennaConfig[i], traced.antennaConfig[i]);
+}
+
+// Polls that found nothing depend on the application's clock: the replayed
+// application may make more of them (answered as the trace answered one) or
+// fewer (the trace's are passed over), and still gets the same tags.
+TEST_F(TraceReplayTest, ReplayLetsIdlePollsBeRepeatedOrLeftOut) {
+  const Outcome traced = Traced();
+  // The session's trace with each fetch that found nothing made three times.
+  const std::string polled = *session_ + ".polled";
+  {
+    std::ifstream in(*session_);
+    std::ofstream out(polled);
+    for (std::string line; std::getline(in, line);) {
+      sim::trace::TracedCall call;
+      std::string why;
+      ASSERT_TRUE(sim::trace::FromJson(*sim::json::Parse(line).value, &call, &why)) << why;
+      const bool idle = call.function == "rfid_GetReadTags" && call.out.at("count").bytes == std::vector<uint8_t>(4, 0);
+      for (int i = 0; i < (idle ? 3 : 1); ++i) out << line << '\n';
+    }
+  }
+  const struct { const std::string* trace; int idlePolls; } cases[] = {{session_, 4}, {&polled, 0}};
+  for (const auto& c : cases) {
+    sim::resetSimulator();
+    sim::loadPopulation("");
+    std::string error;
+    ASSERT_TRUE(sim::replay::start(*c.trace, &error)) << error;
+    const Outcome replayed = RunSession(Direct(), sim::openSession(), 4, c.idlePolls);
+    EXPECT_EQ(sim::replay::divergence(), "") << *c.trace;
+    EXPECT_EQ(replayed.tags, traced.tags) << *c.trace;
+    EXPECT_EQ(replayed.lastStatus, traced.lastStatus) << *c.trace;
+  }
+  std::remove(polled.c_str());
 }
 
 TEST_F(TraceReplayTest, ReplayReportsTheFirstCallThatDiffers) {
