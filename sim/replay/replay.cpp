@@ -259,6 +259,69 @@ TagRead TracedRead(const std::map<std::string, Blob>& out, const std::string& na
   return read;
 }
 
+// Writes the traced record `name` into the caller's record at dst, by its
+// description, and then what its pointers pointed to: into the caller's own
+// buffer where the caller's record points to one already, otherwise into
+// memory kept for the process (the reader's own tables and lists).
+void WriteRecord(const Record& record, const std::map<std::string, Blob>& out, const std::string& name, uint8_t* dst);
+
+const Blob* TracedBlob(const std::map<std::string, Blob>& out, const std::string& name) {
+  auto it = out.find(name);
+  return it == out.end() || !it->second.present || it->second.faulted ? nullptr : &it->second;
+}
+
+void WritePointees(const Record& record, const std::map<std::string, Blob>& out, const std::string& path,
+                   uint8_t* dst, const std::vector<uint8_t>& callers) {
+  for (const Field& field : record.fields) {
+    if (!layout::Applies(field, callers, 0)) continue;
+    if (field.kind == Kind::Embedded) {
+      for (size_t i = 0; i < field.count; ++i) {
+        const size_t at = field.offset + i * field.record->size;
+        const std::vector<uint8_t> inner(callers.begin() + std::min(at, callers.size()),
+                                         callers.begin() + std::min(at + field.record->size, callers.size()));
+        WritePointees(*field.record, out, path + "." + layout::EntryName(field, i), dst + at, inner);
+      }
+      continue;
+    }
+    if (field.kind != Kind::Pointer) continue;
+    if (!layout::Followed(field)) {
+      // A text the trace could not follow (a name the reader points to): the
+      // traced address means nothing here, an empty text stands in for it.
+      static const wchar_t kNoText[1] = {L'\0'};
+      if (layout::UnsignedAt(std::vector<uint8_t>(dst + field.offset, dst + field.offset + 8), 0, 8) != 0) {
+        const uint64_t address = reinterpret_cast<uintptr_t>(kNoText);
+        std::memcpy(dst + field.offset, &address, sizeof address);
+      }
+      continue;
+    }
+    const std::string child = path + "." + field.name;
+    const Blob* pointee = TracedBlob(out, child);
+    auto* own = reinterpret_cast<uint8_t*>(layout::UnsignedAt(callers, field.offset, 8));
+    uint8_t* target = nullptr;
+    if (pointee != nullptr) {
+      target = own != nullptr ? own : static_cast<uint8_t*>(keepAlive(pointee->bytes));
+      if (own != nullptr) std::memcpy(own, pointee->bytes.data(), pointee->bytes.size());
+    }
+    const uint64_t address = reinterpret_cast<uintptr_t>(target);
+    std::memcpy(dst + field.offset, &address, sizeof address);
+    if (target == nullptr || field.record == nullptr) continue;
+    const size_t entries = layout::PointsToRecords(field) ? pointee->bytes.size() / field.record->size : 1;
+    for (size_t i = 0; i < entries; ++i) {
+      const std::string entry = layout::PointsToRecords(field) ? child + "[" + std::to_string(i) + "]" : child;
+      uint8_t* at = target + i * field.record->size;
+      WritePointees(*field.record, out, entry, at, std::vector<uint8_t>(at, at + field.record->size));
+    }
+  }
+}
+
+void WriteRecord(const Record& record, const std::map<std::string, Blob>& out, const std::string& name, uint8_t* dst) {
+  const Blob* traced = TracedBlob(out, name);
+  if (traced == nullptr) return;
+  const std::vector<uint8_t> callers(dst, dst + record.size);  // the caller's own pointers
+  std::memcpy(dst, traced->bytes.data(), std::min(record.size, traced->bytes.size()));
+  WritePointees(record, out, name, dst, callers);
+}
+
 void WriteOutputs(const Call& call, const TracedCall& traced) {
   const FunctionSpec* fn = api::FindFunction(call.fn);
   if (fn == nullptr) return;
@@ -267,10 +330,13 @@ void WriteOutputs(const Call& call, const TracedCall& traced) {
     auto out = traced.out.find(arg.name);
     void* dst = reinterpret_cast<void*>(call.args[i]);
     if (dst == nullptr || out == traced.out.end() || !out->second.present) continue;
-    if (arg.kind == Arg::InOut && arg.record == nullptr) {
+    const Record* record = api::RecordOf(*fn, arg, call.args.data());
+    if (arg.kind == Arg::InOut && record == nullptr) {
       std::memcpy(dst, out->second.bytes.data(), std::min(arg.bytes, out->second.bytes.size()));
-    } else if (arg.kind == Arg::InOut && arg.record == &layout::TagData() && isTagRecord(dst)) {
-      fillTagRecord(dst, TracedRead(traced.out, arg.name), RecordFill());
+    } else if (arg.kind == Arg::InOut && record == &layout::TagData()) {
+      if (isTagRecord(dst)) fillTagRecord(dst, TracedRead(traced.out, arg.name), RecordFill());
+    } else if (arg.kind == Arg::InOut) {
+      WriteRecord(*record, traced.out, arg.name, static_cast<uint8_t*>(dst));
     } else if (arg.kind == Arg::TagArray) {
       const size_t n = out->second.bytes.size() / sizeof(void*);
       auto** records = static_cast<void**>(dst);

@@ -17,6 +17,7 @@
 #include "reader/sessions.h"
 #include "record/journal.h"
 #include "record/json.h"
+#include "replay/replay.h"
 #include "trace_fixture.h"
 
 namespace {
@@ -48,12 +49,9 @@ struct Session {
   std::map<std::string, std::vector<uint8_t>> wroteBack;  // "<function> <blob>"
 };
 
-const Session& Traced() {
-  static Session* s = [] {
-    auto* s = new Session;
-    void* tracer = Tracer();
-    auto bind = [&](const char* name) { return dlsym(tracer, name); };
-    s->skip = trace_test::TracedCount();
+// The calls, through the library's exports (the tracer's, or the simulator's).
+void RunCalls(void* library, Session* s) {
+    auto bind = [&](const char* name) { return dlsym(library, name); };
     const int64_t reader = sim::openSession();
     // ANTENNA_RF_CONFIG in its 320-byte block: indices 1, 2, 3 at 0, 2, 4,
     // RF mode 1 at 8, tari 6250 at 12, ports at 16 and 18, stop trigger
@@ -84,6 +82,10 @@ const Session& Traced() {
     reinterpret_cast<RecordCall>(bind("RFID_SetLocalTime"))(reader, time.data());
     reinterpret_cast<AntennaCall>(bind("RFID_GetReaderStats"))(reader, 1, s->stats.data());
     reinterpret_cast<RecordCall>(bind("RFID_GetProfileListW"))(reader, s->profiles.data());
+}
+
+// What the reader wrote back, by the blob names the trace gives it.
+void Collect(Session* s) {
 
     // READER_CAPS: the sensitivities at 3144/3152, the RF mode tables at
     // 3432/3440 (UHF_RF_MODE_TABLE: entries at 2/8, 80 bytes each), power
@@ -108,6 +110,14 @@ const Session& Traced() {
         {"RFID_GetProfileListW list", list},
         {"RFID_GetProfileListW list.profileNames", Pointee(list, 8, 8 * At<uint16_t>(list, 0))},
     };
+}
+
+const Session& Traced() {
+  static Session* s = [] {
+    auto* s = new Session;
+    s->skip = trace_test::TracedCount();
+    RunCalls(Tracer(), s);
+    Collect(s);
     return s;
   }();
   return *s;
@@ -154,6 +164,29 @@ TEST_F(TraceConfigTest, TraceHoldsWhatWasSentAndWhatTheReaderWroteBack) {
     EXPECT_EQ(got.count(name), 1u) << name << " was not traced";
     EXPECT_FALSE(bytes.empty()) << name;
   }
+}
+
+// Replayed, the same calls get what the reader wrote back: records, and the
+// tables and lists they point to, in memory the simulator keeps.
+TEST_F(TraceConfigTest, ReplayWritesBackEveryTracedRecordAndWhatItPointsTo) {
+  const Session& traced = Traced();
+  const std::string trace = trace_test::TracePath() + ".config";
+  trace_test::CopyTrace(traced.skip, trace);
+  sim::resetSimulator();
+  std::string error;
+  ASSERT_TRUE(sim::replay::start(trace, &error)) << error;
+  Session replayed;
+  RunCalls(RTLD_DEFAULT, &replayed);
+  Collect(&replayed);
+  EXPECT_EQ(sim::replay::divergence(), "");
+  sim::replay::stop();
+  std::remove(trace.c_str());
+  for (const auto& [name, bytes] : traced.wroteBack) {
+    // Records holding pointers point elsewhere now; what they point to is compared.
+    if (name == "RFID_GetReaderCapsW caps" || name == "RFID_GetProfileListW list") continue;
+    EXPECT_EQ(replayed.wroteBack.at(name), bytes) << name;
+  }
+  EXPECT_EQ(At<uint16_t>(replayed.caps.b, 3132), At<uint16_t>(traced.caps.b, 3132)) << "numAntennas";
 }
 
 TEST_F(TraceConfigTest, DecodedViewNamesTheFields) {

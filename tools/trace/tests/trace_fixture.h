@@ -81,24 +81,6 @@ inline void CopyTrace(size_t skip, const std::string& to) {
   }
 }
 
-// The calls traced so far, from the skip-th on.
-inline std::vector<sim::trace::TracedCall> ReadTrace(size_t skip = 0) {
-  std::vector<sim::trace::TracedCall> calls;
-  std::ifstream in(TracePath());
-  size_t number = 0;
-  for (std::string line; std::getline(in, line);) {
-    if (number++ < skip) continue;
-    sim::json::ParseResult parsed = sim::json::Parse(line);
-    EXPECT_TRUE(parsed.value) << parsed.error;
-    if (!parsed.value) continue;
-    sim::trace::TracedCall call;
-    std::string error;
-    EXPECT_TRUE(sim::trace::FromJson(*parsed.value, &call, &error)) << error;
-    calls.push_back(std::move(call));
-  }
-  return calls;
-}
-
 // The lines traced from the skip-th on, parsed.
 inline std::vector<sim::json::Value> TracedLines(size_t skip = 0) {
   std::vector<sim::json::Value> lines;
@@ -111,6 +93,18 @@ inline std::vector<sim::json::Value> TracedLines(size_t skip = 0) {
     if (parsed.value) lines.push_back(std::move(*parsed.value));
   }
   return lines;
+}
+
+// The calls traced so far, from the skip-th on.
+inline std::vector<sim::trace::TracedCall> ReadTrace(size_t skip = 0) {
+  std::vector<sim::trace::TracedCall> calls;
+  for (const sim::json::Value& line : TracedLines(skip)) {
+    sim::trace::TracedCall call;
+    std::string error;
+    EXPECT_TRUE(sim::trace::FromJson(line, &call, &error)) << error;
+    calls.push_back(std::move(call));
+  }
+  return calls;
 }
 
 // A value of a line's decoded view by its path, "out/caps/numAntennas" (an
